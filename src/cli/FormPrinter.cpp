@@ -22,9 +22,9 @@ std::string Plain(const std::string& caption) {
   return std::string(runtime::Trim(runtime::Replace(caption, "&", "")));
 }
 
-std::string OneLine(std::string_view text) { return runtime::Replace(text, "\n", "\\n"); }
+std::string EscapedLine(std::string_view text) { return runtime::Replace(text, "\n", "\\n"); }
 
-std::string Quoted(const std::string& text) { return "\"" + OneLine(text) + "\""; }
+std::string InQuotes(const std::string& text) { return "\"" + EscapedLine(text) + "\""; }
 
 bool IsSelected(const ControlState& control, std::size_t place) {
   const auto index = static_cast<std::int32_t>(place);
@@ -36,8 +36,8 @@ bool IsSelected(const ControlState& control, std::size_t place) {
 std::string Entries(const ControlState& control) {
   std::string text;
   for (std::size_t i = 0; i < control.list->size(); ++i) {
-    text +=
-        (i > 0 ? " | " : "") + std::string(IsSelected(control, i) ? ">" : "") + OneLine((*control.list)[i]);
+    text += (i > 0 ? " | " : "") + std::string(IsSelected(control, i) ? ">" : "") +
+            EscapedLine((*control.list)[i]);
   }
   return text.empty() ? "(no entries)" : text;
 }
@@ -54,10 +54,10 @@ std::string Contents(const ControlState& control) {
     return mark + (control.caption->empty() ? std::string() : " " + Plain(*control.caption));
   }
   if (control.list && *control.listIndex < 0 && !control.text->empty()) {
-    return Quoted(*control.text) + " of " + Entries(control);  // The text was typed.
+    return InQuotes(*control.text) + " of " + Entries(control);  // The text was typed.
   }
   if (control.list) return Entries(control);
-  if (control.text) return Quoted(*control.text);
+  if (control.text) return InQuotes(*control.text);
   return control.caption ? Plain(*control.caption) : std::string();
 }
 
@@ -127,12 +127,13 @@ class Printer {
     std::vector<std::size_t> widths;
     for (const auto& row : *grid.rows) {
       widths.resize(std::max(widths.size(), row.size()));
-      for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], WidthOf(OneLine(row[i])));
+      for (std::size_t i = 0; i < row.size(); ++i)
+        widths[i] = std::max(widths[i], WidthOf(EscapedLine(row[i])));
     }
     for (std::size_t place = 0; place < grid.rows->size(); ++place) {
       const auto& row = (*grid.rows)[place];
       std::string line = std::string(indent, ' ') + (IsSelected(grid, place) ? ">" : " ");
-      for (std::size_t i = 0; i < row.size(); ++i) line += Padded(OneLine(row[i]), widths[i]) + "  ";
+      for (std::size_t i = 0; i < row.size(); ++i) line += Padded(EscapedLine(row[i]), widths[i]) + "  ";
       out_ << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
     }
   }
@@ -142,7 +143,7 @@ class Printer {
   std::size_t nameWidth_ = 0;
 };
 
-Json Describe(const ControlState& control) {
+Json StateOf(const ControlState& control) {
   Json json = {{"name", control.name},           {"kind", control.kind},
                {"container", control.container}, {"accessibleName", control.accessibleName},
                {"enabled", control.enabled},     {"visible", control.visible},
@@ -171,7 +172,7 @@ void PrintForm(std::ostream& out, const FormState& form) { Printer(out, form).Pr
 
 void PrintFormAsJson(std::ostream& out, const FormState& form) {
   Json controls = Json::array();
-  for (const ControlState& control : form.controls) controls.push_back(Describe(control));
+  for (const ControlState& control : form.controls) controls.push_back(StateOf(control));
   const Json json = {{"name", form.name}, {"caption", form.caption}, {"controls", controls}};
   out << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
 }

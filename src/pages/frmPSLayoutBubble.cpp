@@ -17,8 +17,8 @@ constexpr const char* kNoX = "Please select a 'Horizontal (X-axis)' entry";
 constexpr const char* kNoBubble = "Please select a 'Bubble Represents' entry";
 
 /// The pictures by the sum of the settings: 1 for 3-D, 2 for quadrants.
-constexpr std::array<const char*, 4> kPictures = {"imgBubbleBasic", "imgBubble3DBasic", "imgBubbleQuad",
-                                                  "imgBubble3DQuad"};
+constexpr std::array<const char*, 4> kBubblePictures = {"imgBubbleBasic", "imgBubble3DBasic", "imgBubbleQuad",
+                                                        "imgBubble3DQuad"};
 
 /// Enables a check box, or disables and unchecks it.
 void SetUsable(forms::CheckBox& oBox, bool bUsable) {
@@ -30,7 +30,7 @@ void SetUsable(forms::CheckBox& oBox, bool bUsable) {
 
 frmPSLayoutBubble::frmPSLayoutBubble(Navigation& oNavigation)
     : LayoutPage("frmPSLayoutBubble", oNavigation),
-      Pictures(*this, nullptr, {kPictures.begin(), kPictures.end()}) {
+      Pictures(*this, nullptr, {kBubblePictures.begin(), kBubblePictures.end()}) {
   for (auto* oBox : {&chkShowZeroBubbles, &chkScaleXAxis, &chkScaleYAxis}) oBox->SetEnabled(false);
   WireControls();
   Comment.Wire(Buttons.cmdNext);
@@ -75,7 +75,7 @@ void frmPSLayoutBubble::FillSizes() { FillList(cboSizes, colNumberColumns, kOneS
 void frmPSLayoutBubble::FillXValues() { FillList(cboXValues, colNumberColumns); }
 
 void frmPSLayoutBubble::ShowChartPicture() {
-  Pictures.Show(kPictures[(IsChecked(chk3D) ? 1u : 0u) + (IsChecked(chkQuadrants) ? 2u : 0u)]);
+  Pictures.Show(kBubblePictures[(IsChecked(chk3D) ? 1u : 0u) + (IsChecked(chkQuadrants) ? 2u : 0u)]);
 }
 
 std::string frmPSLayoutBubble::FirstFault() const {

@@ -15,14 +15,14 @@ constexpr const char* kNoSlice = "Please select a 'Slice Represents' entry";
 constexpr const char* kNoSize = "Please select a 'Slice Size' entry";
 
 /// The pictures by the sum of the settings: 1 for 3-D, 2 for exploded.
-constexpr std::array<const char*, 4> kPictures = {"imgPieBasic", "imgPie3DBasic", "imgPieExplode",
-                                                  "imgPie3DExplode"};
+constexpr std::array<const char*, 4> kPiePictures = {"imgPieBasic", "imgPie3DBasic", "imgPieExplode",
+                                                     "imgPie3DExplode"};
 
 }  // namespace
 
 frmPSLayoutPie::frmPSLayoutPie(Navigation& oNavigation)
     : LayoutPage("frmPSLayoutPie", oNavigation),
-      Pictures(*this, nullptr, {kPictures.begin(), kPictures.end()}) {
+      Pictures(*this, nullptr, {kPiePictures.begin(), kPiePictures.end()}) {
   optDataLabels2.SetValue(true);
   chk3D.Click = chkExploded.Click = EventProcedure([this] { ShowChartPicture(); });
   Comment.Wire(Buttons.cmdNext);
@@ -43,7 +43,7 @@ void frmPSLayoutPie::FillCategoryList() { FillList(lstCategories, colLabelColumn
 void frmPSLayoutPie::FillValueControl() { FillList(cboValues, colNumberColumns); }
 
 void frmPSLayoutPie::ShowChartPicture() {
-  Pictures.Show(kPictures[(IsChecked(chk3D) ? 1u : 0u) + (IsChecked(chkExploded) ? 2u : 0u)]);
+  Pictures.Show(kPiePictures[(IsChecked(chk3D) ? 1u : 0u) + (IsChecked(chkExploded) ? 2u : 0u)]);
 }
 
 void frmPSLayoutPie::PrepareSelections() { NumberFormat.ShowNumberExample(); }

@@ -3,12 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numbers>
 
 namespace plotsmith::render {
 namespace {
-
-constexpr double kRadian = std::numbers::pi / 180;
 
 /// The smallest rectangle around points, which are added one at a time.
 class Hull {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <numbers>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -10,6 +11,9 @@
 /// Pictures of charts and sheets. A picture is a list of painted items, independent of any graphics library.
 /// Lengths are in points, y grows downwards, and the origin is the top left corner of the picture.
 namespace plotsmith::render {
+
+/// One degree, in radians.
+inline constexpr double kRadian = std::numbers::pi / 180;
 
 /// A point on a picture. Lengths are in points.
 struct Point {

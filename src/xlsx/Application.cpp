@@ -10,7 +10,7 @@ using runtime::Variant;
 
 namespace {
 
-std::string Self() { return "Application"; }
+std::string ApplicationPath() { return "Application"; }
 
 }  // namespace
 
@@ -42,22 +42,22 @@ excel::Ref<excel::Window> Application::ActiveWindow() {
 }
 
 void Application::SetScreenUpdating(bool value) {
-  journal_.Put(Self, "ScreenUpdating", value);
+  journal_.Put(ApplicationPath, "ScreenUpdating", value);
   screenUpdating_ = value;
 }
 
 void Application::SetInteractive(bool value) {
-  journal_.Put(Self, "Interactive", value);
+  journal_.Put(ApplicationPath, "Interactive", value);
   interactive_ = value;
 }
 
 void Application::SetCalculation(std::int32_t value) {
-  journal_.Put(Self, "Calculation", value);
+  journal_.Put(ApplicationPath, "Calculation", value);
   calculation_ = value;
 }
 
 // This host shows no alerts.
-void Application::SetDisplayAlerts(bool value) { journal_.Put(Self, "DisplayAlerts", value); }
+void Application::SetDisplayAlerts(bool value) { journal_.Put(ApplicationPath, "DisplayAlerts", value); }
 
 std::string Application::StandardFont() { return workbook_ ? workbook_->NormalFontName() : "Calibri"; }
 

@@ -9,7 +9,7 @@ namespace {
 using namespace test;
 using S = std::string;
 
-const S kHeader = "|[-BubbleColor-]|[-XAxisValue-]|[-YAxisValue-]|[-BubbleSize-]\n";
+const S kBubbleHeader = "|[-BubbleColor-]|[-XAxisValue-]|[-YAxisValue-]|[-BubbleSize-]\n";
 
 class BubbleDataTest : public test::BlockTest {
  protected:
@@ -42,7 +42,7 @@ TEST_F(BubbleDataTest, OneBubbleForEachName) {
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);
     EXPECT_EQ(Block({"VEX_Chart1", "bubble", full.attributes, c.categories, c.series, c.values, c.rest}),
-              kHeader + c.block);
+              kBubbleHeader + c.block);
     EXPECT_EQ(mSeriesCount, 4);
     EXPECT_EQ(mMapInstructions.size(), 4u);
   }
@@ -122,7 +122,7 @@ TEST_F(BubbleDataTest, TheLargestBubbleComesFirst) {
   Open(BubbleBook({{"A", "x", 1, 2, 5}, {"B", "y", 3, 4, 500}, {"C", "z", 5, 6, 70}}, BubbleDefinition()));
   Block(BubbleDefinition());
   EXPECT_TRUE(SortDataSheet(chart_));
-  EXPECT_EQ(BlockNow(), kHeader + "B|y|3|4|500\nC|z|5|6|70\nA|x|1|2|5");
+  EXPECT_EQ(BlockNow(), kBubbleHeader + "B|y|3|4|500\nC|z|5|6|70\nA|x|1|2|5");
   EXPECT_EQ(Cells("VEX_ChartData", 1, 1, 4, 1), "VEX_Chart1\nVEX_Chart1\nVEX_Chart1\nVEX_Chart1");
 
   // Charts of other types keep their order.

@@ -12,7 +12,7 @@ namespace {
 using namespace test;
 using S = std::string;
 
-const S kHeader = "|[-BlockColor-]|[-BlockSort-]|GROWTH|CORE\n[-StrategicBuckets-]||||\n";
+const S kBucketHeader = "|[-BlockColor-]|[-BlockSort-]|GROWTH|CORE\n[-StrategicBuckets-]||||\n";
 
 class BucketDataTest : public test::BlockTest {};
 
@@ -36,7 +36,7 @@ TEST_F(BucketDataTest, ItemsAgainstBuckets) {
     SCOPED_TRACE(c.what);
     EXPECT_EQ(Block({"VEX_Chart1", "strategic bucket", full.attributes, full.categories, c.series,
                      full.values, c.rest}),
-              kHeader + c.block);
+              kBucketHeader + c.block);
     EXPECT_EQ(mMapInstructions.size(), 3u);
     EXPECT_EQ(mSeriesCount, 4);
   }
@@ -48,7 +48,7 @@ TEST_F(BucketDataTest, ItemsAgainstBuckets) {
   // Without a category column only the row of the buckets is left, which is enough for a map.
   EXPECT_EQ(
       Block({"VEX_Chart1", "strategic bucket", full.attributes, "", full.series, full.values, full.rest}),
-      kHeader.substr(0, kHeader.size() - 1));
+      kBucketHeader.substr(0, kBucketHeader.size() - 1));
   EXPECT_TRUE(Messages().empty());
 }
 
@@ -96,7 +96,7 @@ TEST_F(BucketDataTest, ItemsAreSortedBelowTheRowOfTheBuckets) {
   definition.rest = "<sort-order sort=\"ascending\"><column name=\"Rank\"/></sort-order>";
   Block(definition);
   EXPECT_TRUE(SortDataSheet(chart_));
-  EXPECT_EQ(BlockNow(), kHeader + "Beta|old|1||20\nAlpha|New|3|10|5\nCORE|GROWTH|4||");
+  EXPECT_EQ(BlockNow(), kBucketHeader + "Beta|old|1||20\nAlpha|New|3|10|5\nCORE|GROWTH|4||");
   EXPECT_TRUE(Messages().empty());
 }
 
@@ -106,7 +106,7 @@ TEST_F(BucketDataTest, ASingleItemIsSorted) {
   Open(book);
   Block(BucketDefinition());
   EXPECT_TRUE(SortDataSheet(chart_));
-  EXPECT_EQ(BlockNow(), kHeader + "Alpha|New|2|10|");
+  EXPECT_EQ(BlockNow(), kBucketHeader + "Alpha|New|2|10|");
   EXPECT_TRUE(Messages().empty());
 }
 

@@ -1,9 +1,9 @@
-#include <regex>
 
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartCallsTest.h"
 #include "tests/support/FamilyBooks.h"
+#include "tests/support/Patterns.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -19,9 +19,9 @@ class ChartLegendTest : public test::ChartCallsTest {
  protected:
   /// Returns the calls on shapes without their names and paths, such as "Left = 8".
   static Lines ShapeCalls(const Lines& calls) {
-    static const std::regex path(R"re(^.*?\.Shapes(\.Range)?(\((Array\()?("[^"]*"(, )?)*\)?\))?\.)re");
+    const S path = R"re(^.*?\.Shapes(\.Range)?(\((Array\()?("[^"]*"(, )?)*\)?\))?\.)re";
     Lines found;
-    for (const S& line : With(calls, ".Shapes")) found.push_back(std::regex_replace(line, path, ""));
+    for (const S& line : With(calls, ".Shapes")) found.push_back(test::WithMatches(line, path, ""));
     return found;
   }
   /// Returns the texts of the drawn entries.

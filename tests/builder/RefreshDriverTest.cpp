@@ -6,6 +6,7 @@
 #include "common/RunVariables.h"
 #include "controller/CPlotsmithController.h"
 #include "tests/support/ChartTest.h"
+#include "tests/support/Patterns.h"
 
 namespace plotsmith {
 namespace {

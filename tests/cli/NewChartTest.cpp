@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
-#include <regex>
 #include <vector>
 
+#include "runtime/Strings.h"
 #include "tests/support/Files.h"
+#include "tests/support/Patterns.h"
 #include "tests/support/WizardVerbsTest.h"
 #include "xlsx/package/Package.h"
 
@@ -87,23 +88,21 @@ class NewChartTest : public test::WizardVerbsTest {
   /// Returns the rows of the only chart on the data sheet, without its id.
   static S Block(const S& book) {
     const S cells = RunCommand({"cells", book, "VEX_ChartData!A1:F9"}).out;
-    const S rows = std::regex_replace(cells, std::regex("VEX_Chart1"), "");
-    return std::regex_replace(std::regex_replace(rows, std::regex("\t+\n"), "\n"), std::regex("\n+$"), "\n");
+    return test::WithMatches(test::WithMatches(cells, "VEX_Chart1|\t+(?=\n)", ""), "\n+$", "\n");
   }
   /// Returns the definition without the parts that a load reads from the chart or that a refresh copies from
   /// the table.
   static S Written(const S& book) {
-    const std::regex copied(
-        " (table-top-row|table-left-column|table-height|header-row-count|data-start-row|worksheet-column-"
-        "number|"
-        "bucket-[a-z]+-column-position)=\"[0-9]+\"");
-    const S text = std::regex_replace(Definition(book, "VEX_Chart1"), copied, "");
-    return std::regex_replace(text, std::regex("<auto-persistence>.*</auto-persistence>"), "");
+    return test::WithMatches(Definition(book, "VEX_Chart1"),
+                             " (table-top-row|table-left-column|table-height|header-row-count|data-start-row|"
+                             "worksheet-column-number|bucket-[a-z]+-column-position)=\"[0-9]+\"|"
+                             "<auto-persistence>.*</auto-persistence>",
+                             "");
   }
   /// Returns the part of the only chart, without its legend.
   static S ChartPart(const S& book) {
     const S part = xlsx::Package::Open(book).Read("/xl/charts/chart1.xml");
-    return std::regex_replace(part, std::regex("<c:legend>.*</c:legend>"), "");
+    return test::WithMatches(part, "<c:legend>.*</c:legend>", "");
   }
 };
 
@@ -118,7 +117,7 @@ TEST_F(NewChartTest, ChartsOfAllTypesAreMadeOnAPlainWorkbook) {
     EXPECT_EQ(Block(out), chart.block) << chart.type;
     const S definition = Written(out);
     EXPECT_EQ(definition.substr(definition.find("><") + 1),
-              std::regex_replace(chart.definition, std::regex("\n"), "") + "</chart>\n")
+              runtime::Replace(chart.definition, "\n", "") + "</chart>\n")
         << chart.type;
   }
 }

@@ -11,6 +11,7 @@
 #include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
+#include "tests/support/Patterns.h"
 #include "tests/support/RunCommand.h"
 
 namespace plotsmith::cli {
@@ -34,12 +35,6 @@ S FormatOf(const S& bytes) {
   if (bytes.starts_with("\x89PNG\r\n")) return "png";
   if (bytes.starts_with("%PDF-")) return "pdf";
   return bytes.find("<svg ") < 100 ? "svg" : "none";
-}
-
-int CountOf(const S& text, const S& part) {
-  int count = 0;
-  for (auto at = text.find(part); at != S::npos; at = text.find(part, at + 1)) ++count;
-  return count;
 }
 
 /// The workbook "book.xlsx" in a folder of its own: two refreshed charts of Plotsmith and one of another
@@ -285,7 +280,7 @@ TEST_F(RenderTest, SvgIsWellFormedAndSaysItsValues) {
         xmlReadMemory(bytes.data(), static_cast<int>(bytes.size()), "a.svg", nullptr, XML_PARSE_NONET);
     ASSERT_NE(document, nullptr) << bytes;
     xmlFreeDoc(document);
-    EXPECT_EQ(CountOf(bytes, "<title>"), CountOf(bytes, "</title>"));
+    EXPECT_EQ(test::CountOf(bytes, "<title>"), test::CountOf(bytes, "</title>"));
     EXPECT_NE(bytes.find("<desc>"), S::npos);
     EXPECT_NE(bytes.find("West"), S::npos) << "a category of the table";
   }
@@ -293,9 +288,9 @@ TEST_F(RenderTest, SvgIsWellFormedAndSaysItsValues) {
 
 TEST_F(RenderTest, APdfHasAPageForEachChartAndEachPageOfASheet) {
   ASSERT_EQ(Run({"render", "BOOK", "-o", "DIR/a.pdf"}).code, 0);
-  EXPECT_EQ(CountOf(test::BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 2);
+  EXPECT_EQ(test::CountOf(test::BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 2u);
   ASSERT_EQ(Run({"render", "BOOK", "--sheet", "Many rows", "-o", "DIR/a.pdf"}).code, 0);
-  EXPECT_EQ(CountOf(test::BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 3);
+  EXPECT_EQ(test::CountOf(test::BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 3u);
 }
 
 TEST_F(RenderTest, AnExistingPictureIsReplacedAsAWhole) {

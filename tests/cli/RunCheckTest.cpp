@@ -17,8 +17,8 @@ using S = std::string;
 using List = std::vector<S>;
 
 const S kDefinitions = "/xl/worksheets/sheet3.xml";
-const S kDrawing = "/xl/drawings/drawing2.xml";
-const S kChart = "/xl/charts/chart1.xml";
+const S kDrawingPart = "/xl/drawings/drawing2.xml";
+const S kChartPart = "/xl/charts/chart1.xml";
 
 /// Tests the messages on stderr with which writing commands report what happens to a person's work.
 class RunCheckTest : public ::testing::Test {
@@ -113,7 +113,7 @@ TEST_F(RunCheckTest, NothingIsWrittenIfADefinitionWouldBeLost) {
 TEST_F(RunCheckTest, AMissingDrawnChartLosesItsDefinition) {
   Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
   EXPECT_EQ(Refresh(), "");
-  Edit(kDrawing, "descr=\"VEX_Chart1\"", "descr=\"Mine\"");
+  Edit(kDrawingPart, "descr=\"VEX_Chart1\"", "descr=\"Mine\"");
   EXPECT_EQ(
       Refresh(),
       Line("No chart has the alternative text 'VEX_Chart1'; there are charts with 'Mine' and 'VEX_Chart2'; "
@@ -128,16 +128,16 @@ TEST_F(RunCheckTest, AGroupedChartIsNotLost) {
   const S group =
       "<xdr:grpSp><xdr:nvGrpSpPr><xdr:cNvPr id=\"9\" name=\"Group 9\"/><xdr:cNvGrpSpPr/></xdr:nvGrpSpPr>"
       "<xdr:grpSpPr/>";
-  Edit(kDrawing, "<xdr:graphicFrame macro", group + "<xdr:graphicFrame macro");
-  Edit(kDrawing, "</xdr:graphicFrame>", "</xdr:graphicFrame></xdr:grpSp>");
+  Edit(kDrawingPart, "<xdr:graphicFrame macro", group + "<xdr:graphicFrame macro");
+  Edit(kDrawingPart, "</xdr:graphicFrame>", "</xdr:graphicFrame></xdr:grpSp>");
   const CommandResult refused = RunCommand({"refresh", path_});
   EXPECT_EQ(refused.code, 3);
   EXPECT_TRUE(refused.err.starts_with(
       Line("The chart with the alternative text 'VEX_Chart1' is in a group of shapes on the sheet 'Charts', "
            "where it isn't found; ungroup it.")))
       << refused.err;
-  Edit(kDrawing, group, "");
-  Edit(kDrawing, "</xdr:grpSp>", "");
+  Edit(kDrawingPart, group, "");
+  Edit(kDrawingPart, "</xdr:grpSp>", "");
   EXPECT_EQ(Refresh(), "") << "the definition is still there";
 }
 
@@ -204,7 +204,8 @@ TEST_F(RunCheckTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
       << "all definitions are stored, whichever table is refreshed";
   EXPECT_EQ(Refresh(), kept);
   EXPECT_EQ(Refresh(), "");
-  Edit(kChart, "?><c:chartSpace", "?>\r\n<c:chartSpace");  // A spreadsheet program has saved the workbook.
+  Edit(kChartPart, "?><c:chartSpace",
+       "?>\r\n<c:chartSpace");  // A spreadsheet program has saved the workbook.
   edit();
   EXPECT_EQ(Refresh(), "") << "a user may have changed the chart";
   Edit(kDefinitions, "title=\"Sales\"", "title=\"Costs\"");

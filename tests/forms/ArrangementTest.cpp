@@ -28,7 +28,7 @@ class PlainMeasures final : public forms::Measures {
   int Gap() const override { return 1; }
 };
 
-S Text(const std::vector<forms::PlacedControl>& placed) {
+S ArrangedText(const std::vector<forms::PlacedControl>& placed) {
   S text;
   for (const auto& [control, area] : placed) {
     text += control->FullName() + " " + std::to_string(area.left) + "," + std::to_string(area.top) + " " +
@@ -64,7 +64,7 @@ TEST(ArrangementTest, PartsShareTheRoom) {
   for (const auto& [layout, least, placed] : cases) {
     const forms::Size size = forms::LeastSize(layout, measures);
     EXPECT_EQ(std::to_string(size.width) + "x" + std::to_string(size.height), least) << placed;
-    EXPECT_EQ(Text(forms::Arrange(layout, measures, {0, 0, 40, 30})), placed);
+    EXPECT_EQ(ArrangedText(forms::Arrange(layout, measures, {0, 0, 40, 30})), placed);
   }
 }
 

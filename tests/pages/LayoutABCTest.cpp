@@ -15,7 +15,7 @@ class LayoutABCTest : public test::PagesTest {
   };
 };
 
-constexpr int kBar = 0, kColumn = 1, kArea = 2;
+constexpr int kBarType = 0, kColumnType = 1, kAreaType = 2;
 
 TEST_F(LayoutABCTest, StatesFollowEachClick) {
   const S stack = " chkStacked chk100Pct", fresh = "lstCategories cboSeries lstSeries" + stack;
@@ -54,7 +54,8 @@ TEST_F(LayoutABCTest, StatesFollowEachClick) {
        "lstCategories lstSeries chk100Pct", "expect optSeries(1).Value yes"},
   };
   for (const auto& [script, off, expected] : cases) {
-    EXPECT_EQ(Play(SalesBook({}), NewChart(kColumn) + script + "; look off " + off + "; " + expected), "");
+    EXPECT_EQ(Play(SalesBook({}), NewChart(kColumnType) + script + "; look off " + off + "; " + expected),
+              "");
   }
 }
 
@@ -78,10 +79,11 @@ TEST_F(LayoutABCTest, TheNumberOfColumnsDeterminesTheColors) {
        "lstCategories cboSeries lstSeries" + rest},
   };
   for (const auto& [labels, numbers, script, off] : cases) {
-    EXPECT_EQ(Play(BookOfColumns(labels, numbers), NewChart(kColumn) + script + "; look off " + off), "");
+    EXPECT_EQ(Play(BookOfColumns(labels, numbers), NewChart(kColumnType) + script + "; look off " + off), "");
   }
-  EXPECT_EQ(Play(BookOfColumns({"A"}, {"N"}), NewChart(kColumn) + "press cmdNext; page frmPSChartLocation"),
-            "");
+  EXPECT_EQ(
+      Play(BookOfColumns({"A"}, {"N"}), NewChart(kColumnType) + "press cmdNext; page frmPSChartLocation"),
+      "");
 }
 
 TEST_F(LayoutABCTest, RestoredStatesAreConsistent) {
@@ -114,18 +116,18 @@ TEST_F(LayoutABCTest, CaptionsAndHelpFollowTheType) {
     std::vector<std::int32_t> topics;
     S captions;
   } cases[] = {
-      {kBar,
+      {kBarType,
        {3},
        "expect Frame2.Caption \"2. Vertical (Y-axis) Shows\"; expect Frame4.Caption \"4. Bar Length\"; "
        "expect Frame5.Caption \"5. Bar and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
        "Bars\"; expect chkStacked.Caption \"Stacked Bars\"; expect txtVAxis.Text Region; expect "
        "txtHAxis.Text Amount"},
-      {kColumn,
+      {kColumnType,
        {4},
        "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Column Height\"; "
        "expect Frame5.Caption \"5. Column and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
        "Columns\"; expect chkStacked.Caption \"Stacked Columns\"; expect txtHAxis.Text Region"},
-      {kArea,
+      {kAreaType,
        {5},
        "expect Frame2.Caption \"2. Horizontal (X-axis) Shows\"; expect Frame4.Caption \"4. Area Size\"; "
        "expect Frame5.Caption \"5. Area and Axis Labels\"; expect chkShowValues.Caption \"Show Values on "
@@ -151,7 +153,7 @@ TEST_F(LayoutABCTest, EachCombinationOfSettingsHasItsPicture) {
       {"choose optSeries(1); check chkStacked; choose optSeries(0)", "imgLegendDim imgTBasic"},
   };
   const S types[] = {"Bar", "Column", "Area"};
-  for (int type = kBar; type <= kArea; ++type) {
+  for (int type = kBarType; type <= kAreaType; ++type) {
     for (auto [script, pictures] : codes) {
       pictures.replace(pictures.find("imgT") + 3, 1, types[type]);
       EXPECT_EQ(Play(SalesBook({}), NewChart(type) + script + "; look pictures " + pictures), "");
@@ -178,19 +180,19 @@ TEST_F(LayoutABCTest, MessagesMoveTheFocus) {
     bool outlivesBack =
         true;  ///< Whether the state is kept after Back, rather than reset to the first entries.
   } cases[] = {
-      {kColumn, noList, noX, "lstCategories"},
-      {kArea, noList, noX, "lstCategories"},
-      {kBar, noList, noY, "lstCategories"},
-      {kColumn, noCombo, noX, "cboCategories", false},
-      {kBar, noCombo, noY, "cboCategories", false},
-      {kColumn, noSize, "\"Please select a 'Column Height' entry\"", "cboValues", false},
-      {kArea, noSize, "\"Please select an 'Area Size' entry\"", "cboValues", false},
-      {kBar, noSize, "\"Please select a 'Bar Length' entry\"", "cboValues", false},
-      {kColumn, same, sameX, "cboCategories"},
-      {kArea, same, sameX, "cboCategories"},
-      {kBar, same, sameY, "cboCategories"},
-      {kColumn, "type cboDataLabelMask \"0 [\"", badFormat, "cboDataLabelMask"},
-      {kBar, same + "; type cboDataLabelMask \"0 [\"", sameY, "cboCategories"},
+      {kColumnType, noList, noX, "lstCategories"},
+      {kAreaType, noList, noX, "lstCategories"},
+      {kBarType, noList, noY, "lstCategories"},
+      {kColumnType, noCombo, noX, "cboCategories", false},
+      {kBarType, noCombo, noY, "cboCategories", false},
+      {kColumnType, noSize, "\"Please select a 'Column Height' entry\"", "cboValues", false},
+      {kAreaType, noSize, "\"Please select an 'Area Size' entry\"", "cboValues", false},
+      {kBarType, noSize, "\"Please select a 'Bar Length' entry\"", "cboValues", false},
+      {kColumnType, same, sameX, "cboCategories"},
+      {kAreaType, same, sameX, "cboCategories"},
+      {kBarType, same, sameY, "cboCategories"},
+      {kColumnType, "type cboDataLabelMask \"0 [\"", badFormat, "cboDataLabelMask"},
+      {kBarType, same + "; type cboDataLabelMask \"0 [\"", sameY, "cboCategories"},
   };
   for (const auto& [type, script, message, focus, outlivesBack] : cases) {
     const S said = "; expect message " + message + "; page frmPSLayoutABC; look focus " + focus;
@@ -200,7 +202,7 @@ TEST_F(LayoutABCTest, MessagesMoveTheFocus) {
         << "the page was loaded before it was shown";
   }
   EXPECT_EQ(Play(SalesBook({}),
-                 NewChart(kColumn) +
+                 NewChart(kColumnType) +
                      "choose optSeries(2); choose optSeries(1); choose cboValues Cost; press cmdNext; "
                      "press cmdBack; expect optSeries(0).Value yes"),
             "")

@@ -124,7 +124,7 @@ S Ser(const S& inside = "", int index = 0) {
 S Props(const S& properties) {
   return "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr " + properties + "</a:defRPr></a:pPr></a:p></c:txPr>";
 }
-S Fill(const S& color) { return "<a:solidFill>" + color + "</a:solidFill>"; }
+S FillXml(const S& color) { return "<a:solidFill>" + color + "</a:solidFill>"; }
 S Rich(const S& runs, const S& defaults = "") {
   return "<c:tx><c:rich><a:bodyPr/><a:p>" + defaults + runs + "</a:p></c:rich></c:tx>";
 }
@@ -170,7 +170,7 @@ TEST_F(ReadBackTest, EquivalentChartParts) {
        "", "| L, Calibri 10 Bold 0 | - |"},
       {"size and colour of the whole chart",
        untitled + Bar(Ser(), axes("<c:title>" + Rich(TextRun("L")) + "</c:title>", "")),
-       Props("sz=\"1400\" i=\"1\">" + Fill("<a:srgbClr val=\"FF0000\"/>") +
+       Props("sz=\"1400\" i=\"1\">" + FillXml("<a:srgbClr val=\"FF0000\"/>") +
              "<a:latin typeface=\"Georgia\"/>"),
        "| L, Georgia 14 Bold Italic 255 |"},
       {"the paragraph's defaults",
@@ -219,25 +219,25 @@ TEST_F(ReadBackTest, EquivalentChartParts) {
       // colours
       {"of the theme, lighter",
        untitled + two + "<c:legend>" +
-           Props(">" + Fill("<a:schemeClr val=\"tx1\"><a:lumMod val=\"65000\"/><a:lumOff "
-                            "val=\"35000\"/></a:schemeClr>")) +
+           Props(">" + FillXml("<a:schemeClr val=\"tx1\"><a:lumMod val=\"65000\"/><a:lumOff "
+                               "val=\"35000\"/></a:schemeClr>")) +
            "</c:legend>",
        "", "show -4152, Calibri 10 Regular 5855577 |"},
       {"of the chart's own colour map",
-       untitled + two + "<c:legend>" + Props(">" + Fill("<a:schemeClr val=\"tx1\"/>")) + "</c:legend>",
+       untitled + two + "<c:legend>" + Props(">" + FillXml("<a:schemeClr val=\"tx1\"/>")) + "</c:legend>",
        "<c:clrMapOvr tx1=\"accent1\"/>", "Calibri 10 Regular 12419407 |"},
       {"of the system",
-       untitled + two + "<c:legend>" + Props(">" + Fill("<a:sysClr val=\"window\" lastClr=\"FEFEFE\"/>")) +
+       untitled + two + "<c:legend>" + Props(">" + FillXml("<a:sysClr val=\"window\" lastClr=\"FEFEFE\"/>")) +
            "</c:legend>",
        "", "Calibri 10 Regular 16711422 |"},
       {"by name",
-       untitled + two + "<c:legend>" + Props(">" + Fill("<a:prstClr val=\"navy\"/>")) + "</c:legend>", "",
+       untitled + two + "<c:legend>" + Props(">" + FillXml("<a:prstClr val=\"navy\"/>")) + "</c:legend>", "",
        "Calibri 10 Regular 8388608 |"},
       {"modified with invalid numbers",
        untitled + two + "<c:legend>" +
            Props(">" +
-                 Fill("<a:srgbClr val=\"336699\"><a:shade val=\"1e300\"/><a:shade val=\"1e300\"/><a:shade "
-                      "val=\"1e300\"/><a:shade val=\"0\"/></a:srgbClr>")) +
+                 FillXml("<a:srgbClr val=\"336699\"><a:shade val=\"1e300\"/><a:shade val=\"1e300\"/><a:shade "
+                         "val=\"1e300\"/><a:shade val=\"0\"/></a:srgbClr>")) +
            "</c:legend>",
        "", "Calibri 10 Regular 0 |"},
       // the legend
@@ -254,7 +254,7 @@ TEST_F(ReadBackTest, EquivalentChartParts) {
        "", "show at 192,67.5,"},
       {"an entry that is red",
        untitled + two + "<c:legend><c:legendEntry><c:idx val=\"1\"/>" +
-           Props("sz=\"1000\">" + Fill("<a:srgbClr val=\"FF0000\"/>")) + "</c:legendEntry></c:legend>",
+           Props("sz=\"1000\">" + FillXml("<a:srgbClr val=\"FF0000\"/>")) + "</c:legendEntry></c:legend>",
        "", "show -4152, Calibri 10 Regular  |"},
       {"a deleted entry",
        untitled + two +
@@ -435,7 +435,7 @@ S Persisted(const S& keys, const S& values) {
 }
 
 TEST_F(ReadBackTest, TheWholeDefinitionAfterwards) {
-  const S red = Fill("<a:srgbClr val=\"FF0000\"/>"), serif = "<a:latin typeface=\"Georgia\"/>";
+  const S red = FillXml("<a:srgbClr val=\"FF0000\"/>"), serif = "<a:latin typeface=\"Georgia\"/>";
   const S shown = "<c:showVal val=\"1\"/>", shares = "<c:showPercent val=\"1\"/>";
   const S axes = "<c:catAx><c:axId val=\"1\"/><c:title>" + Rich(TextRun("Regions")) +
                  "</c:title></c:catAx><c:valAx><c:axId val=\"2\"/></c:valAx>";

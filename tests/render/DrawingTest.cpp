@@ -12,7 +12,7 @@ namespace plotsmith::test {
 
 namespace {
 
-S Axis(const char* element, int number, int other, const char* side, const S& more) {
+S AxisXml(const char* element, int number, int other, const char* side, const S& more) {
   return "<c:" + S(element) + "><c:axId val=\"" + std::to_string(number) + "\"/>" +
          (more.find("<c:scaling>") == S::npos ? "<c:scaling/>" : "") +
          "<c:delete val=\"0\"/><c:axPos val=\"" + side + "\"/>" + more + "<c:crossAx val=\"" +
@@ -116,8 +116,8 @@ S PointsXml(int index, const Numbers& x, const Numbers& y, const S& more, const 
 }
 
 S AxesXml(const S& category, const S& value, bool horizontal) {
-  return Axis("catAx", 1, 2, horizontal ? "l" : "b", category) +
-         Axis("valAx", 2, 1, horizontal ? "b" : "l", value);
+  return AxisXml("catAx", 1, 2, horizontal ? "l" : "b", category) +
+         AxisXml("valAx", 2, 1, horizontal ? "b" : "l", value);
 }
 
 S ValueAxesXml(const S& x, const S& value) { return runtime::Replace(AxesXml(x, value), "catAx", "valAx"); }

@@ -1,5 +1,4 @@
 #include <map>
-#include <numbers>
 
 #include "tests/render/DrawingTest.h"
 #include "xlsx/package/Xml.h"
@@ -9,14 +8,12 @@ namespace {
 
 using namespace test;
 
-constexpr double kRadian = std::numbers::pi / 180;
-
-S Number(double value) { return xlsx::xml::Number(value); }
+using xlsx::xml::Number;
 
 /// Returns the point at a distance from the middle of a circle, at an angle clockwise from twelve o'clock.
 Point Around(Point middle, double degrees, double distance) {
-  return {middle.x + distance * std::sin(degrees * kRadian),
-          middle.y - distance * std::cos(degrees * kRadian)};
+  return {middle.x + distance * std::sin(degrees * render::kRadian),
+          middle.y - distance * std::cos(degrees * render::kRadian)};
 }
 
 /// Returns the distance of a point from the nearest point of a line.
@@ -81,7 +78,7 @@ void ExpectShortestWay(const std::vector<PathStep>& steps, Point middle, double 
   EXPECT_NEAR(end.x, std::clamp(edge.x, label.left, label.Right()), 1e-6) << what;
   EXPECT_NEAR(end.y, isBeside ? label.Center().y : std::clamp(edge.y, label.top, label.Bottom()), 1e-6)
       << what;
-  const double way = Turned(std::atan2(end.x - middle.x, middle.y - end.y) / kRadian - angle);
+  const double way = Turned(std::atan2(end.x - middle.x, middle.y - end.y) / render::kRadian - angle);
   for (std::size_t i = 1; i + 1 < steps.size(); ++i) {  // four degrees on, two points beside the circle
     const Point at = Around(middle, angle + (way < 0 ? -4.0 : 4.0) * static_cast<double>(i), radius + 2);
     EXPECT_NEAR(std::hypot(steps[i].to.x - at.x, steps[i].to.y - at.y), 0, 1e-6) << what << ' ' << i;
@@ -166,7 +163,7 @@ TEST_F(PieLabelsTest, LeaderLinesAreDrawnFromFivePointsOn) {
 bool IsInSlice(const Rect& box, double middle, double sweep, double radius) {
   for (const double x : {box.left, box.Right()}) {
     for (const double y : {box.top, box.Bottom()}) {
-      const double angle = std::atan2(x, -y) / kRadian;
+      const double angle = std::atan2(x, -y) / render::kRadian;
       if (std::hypot(x, y) > radius || std::abs(Turned(angle - middle)) > sweep / 2) return false;
     }
   }

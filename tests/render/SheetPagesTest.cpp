@@ -16,7 +16,7 @@ using xlsx::CellRange;
 /// Each character is a point wide.
 double CountedWidth(std::string_view text) { return static_cast<double>(text.size()); }
 
-S Text(const CellRange& range) {
+S RangeText(const CellRange& range) {
   return xlsx::CellAddress(range.row1, range.column1, false) + ":" +
          xlsx::CellAddress(range.row2, range.column2, false);
 }
@@ -96,7 +96,7 @@ TEST(PageCutsTest, PagesContainWholeRowsAndColumnsUpToBreaks) {
   for (const auto& c : cases) {
     const PageCuts cuts = CutPages(c.setup, geometry, c.ranges, 100);
     S pages;
-    for (const CellRange& page : cuts.pages) pages += Text(page) + " ";
+    for (const CellRange& page : cuts.pages) pages += RangeText(page) + " ";
     EXPECT_EQ(pages, c.pages);
     EXPECT_DOUBLE_EQ(cuts.scale, c.scale) << c.pages;
     EXPECT_EQ(cuts.count, cuts.pages.size());

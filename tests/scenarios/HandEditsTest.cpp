@@ -12,12 +12,12 @@ namespace {
 using namespace test;
 using S = std::string;
 
-void Replace(S& text, const S& from, const S& to) {
+void ReplaceFirst(S& text, const S& from, const S& to) {
   const auto at = text.find(from);
   ASSERT_NE(at, S::npos) << from << " isn't in " << text;
   text.replace(at, from.size(), to);
 }
-void InsertBefore(S& text, const S& mark, const S& what) { Replace(text, mark, what + mark); }
+void InsertBefore(S& text, const S& mark, const S& what) { ReplaceFirst(text, mark, what + mark); }
 /// Replaces the text from the first `from` up to the next `to`, which is kept.
 void ReplaceSpan(S& text, const S& from, const S& to, const S& what) {
   const auto begin = text.find(from);
@@ -74,15 +74,15 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
   const HandEdit cases[] = {
       {"another title, in colour",
        [](S& xml) {
-         Replace(xml, "<a:rPr lang=\"en-US\"/><a:t>Sales</a:t>",
-                 "<a:rPr lang=\"en-US\" sz=\"2000\">" + kRed + "</a:rPr><a:t>Turnover &amp; more</a:t>");
+         ReplaceFirst(xml, "<a:rPr lang=\"en-US\"/><a:t>Sales</a:t>",
+                      "<a:rPr lang=\"en-US\" sz=\"2000\">" + kRed + "</a:rPr><a:t>Turnover &amp; more</a:t>");
        },
        {"sz=\"2000\">" + kRed + "</a:rPr><a:t>Turnover &amp; more</a:t>"},
        {"title=\"Turnover &amp; more\""}},
       {"no title",
        [](S& xml) {
          ReplaceSpan(xml, "<c:title>", "<c:autoTitleDeleted", "");
-         Replace(xml, "autoTitleDeleted val=\"0\"", "autoTitleDeleted val=\"1\"");
+         ReplaceFirst(xml, "autoTitleDeleted val=\"0\"", "autoTitleDeleted val=\"1\"");
        },
        {"<c:chart><c:autoTitleDeleted val=\"1\"/><c:plotArea>"},
        {"title=\"\""}},
@@ -123,9 +123,9 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
        {"<data-labels/>"}},
       {"stacked bars",
        [](S& xml) {
-         Replace(xml, "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
-                 "<c:barDir val=\"bar\"/><c:grouping val=\"stacked\"/>");
-         Replace(xml, "<c:gapWidth val=\"150\"/>", "<c:gapWidth val=\"40\"/><c:overlap val=\"100\"/>");
+         ReplaceFirst(xml, "<c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>",
+                      "<c:barDir val=\"bar\"/><c:grouping val=\"stacked\"/>");
+         ReplaceFirst(xml, "<c:gapWidth val=\"150\"/>", "<c:gapWidth val=\"40\"/><c:overlap val=\"100\"/>");
        },
        {"<c:barDir val=\"bar\"/><c:grouping val=\"stacked\"/>",
         "<c:gapWidth val=\"40\"/><c:overlap val=\"100\"/>"},
@@ -135,7 +135,7 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
          InsertBefore(xml, "<c:numFmt formatCode=\"General\"",
                       "<c:title><c:tx><c:rich><a:bodyPr/><a:lstStyle/><a:p><a:r><a:rPr "
                       "lang=\"en-US\"/><a:t>Where</a:t></a:r></a:p></c:rich></c:tx></c:title>");
-         Replace(xml, "<a:t>Money</a:t>", "<a:t>Euros</a:t>");
+         ReplaceFirst(xml, "<a:t>Money</a:t>", "<a:t>Euros</a:t>");
        },
        {"<a:t>Where</a:t>", "<a:t>Euros</a:t>"},
        {"<axis type=\"label\" label=\"Where\" sticky=\"yes\"/>",
@@ -148,19 +148,20 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
        {"<c:numFmt formatCode=\"#,##0.0\" sourceLinked=\"1\"/>", "<c:formatCode>#,##0.0</c:formatCode>"},
        {"number-format=\"#,##0.0\""}},
       {"the plot area painted",
-       [](S& xml) { Replace(xml, "</c:plotArea>", kGradient + "</c:plotArea>"); },
+       [](S& xml) { ReplaceFirst(xml, "</c:plotArea>", kGradient + "</c:plotArea>"); },
        {kGradient + "</c:plotArea>"},
        {}},
       {"settings that drawing doesn't change",
        [&](S& xml) {
-         Replace(xml, "<c:layout/>",
-                 "<c:layout><c:manualLayout><c:layoutTarget val=\"inner\"/><c:xMode val=\"edge\"/><c:yMode "
-                 "val=\"edge\"/><c:x val=\"0.1\"/><c:y val=\"0.2\"/><c:w val=\"0.6\"/><c:h "
-                 "val=\"0.7\"/></c:manualLayout></c:layout>");
-         Replace(xml, "<c:gapWidth val=\"150\"/>", "<c:gapWidth val=\"33\"/><c:overlap val=\"-10\"/>");
-         Replace(xml, "<c:majorGridlines/>",
-                 "<c:majorGridlines><c:spPr><a:ln><a:prstDash "
-                 "val=\"dash\"/></a:ln></c:spPr></c:majorGridlines><c:minorGridlines/>");
+         ReplaceFirst(
+             xml, "<c:layout/>",
+             "<c:layout><c:manualLayout><c:layoutTarget val=\"inner\"/><c:xMode val=\"edge\"/><c:yMode "
+             "val=\"edge\"/><c:x val=\"0.1\"/><c:y val=\"0.2\"/><c:w val=\"0.6\"/><c:h "
+             "val=\"0.7\"/></c:manualLayout></c:layout>");
+         ReplaceFirst(xml, "<c:gapWidth val=\"150\"/>", "<c:gapWidth val=\"33\"/><c:overlap val=\"-10\"/>");
+         ReplaceFirst(xml, "<c:majorGridlines/>",
+                      "<c:majorGridlines><c:spPr><a:ln><a:prstDash "
+                      "val=\"dash\"/></a:ln></c:spPr></c:majorGridlines><c:minorGridlines/>");
          ReplaceSpan(xml, "<c:valAx>", "<c:delete",
                      "<c:valAx><c:axId val=\"111111112\"/><c:scaling><c:orientation val=\"minMax\"/><c:max "
                      "val=\"50\"/><c:min val=\"-5\"/></c:scaling>");
@@ -256,7 +257,7 @@ TEST_F(HandEditsTest, AChartIsFoundOnTheSheetToWhichItWasMoved) {
   Edit([](xlsx::Package& package) {
     for (const S part : {"/xl/drawings/drawing2.xml", "/xl/drawings/_rels/drawing2.xml.rels"}) {
       S second = part;
-      Replace(second, "drawing2", "drawing3");
+      ReplaceFirst(second, "drawing2", "drawing3");
       const S bytes = package.Read(part);
       package.Replace(part, package.Read(second));
       package.Replace(second, bytes);
@@ -284,7 +285,7 @@ TEST_F(HandEditsTest, ChartsWithoutMarkersAreIdentifiedByTheirData) {
   Edit([](xlsx::Package& package) {
     S xml = package.Read("/xl/drawings/drawing2.xml");
     for (const S marker : {"VEX_Chart1", "VEX_Chart2", "VEX_Chart2"})
-      Replace(xml, " descr=\"" + marker + "\"", "");
+      ReplaceFirst(xml, " descr=\"" + marker + "\"", "");
     package.Replace("/xl/drawings/drawing2.xml", xml);
     test::SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64");
   });

@@ -5,7 +5,6 @@
 #include <map>
 #include <memory>
 #include <pugixml.hpp>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -20,6 +19,7 @@
 #include "tests/support/Files.h"
 #include "tests/support/PagesTest.h"
 #include "tests/support/Paths.h"
+#include "tests/support/Patterns.h"
 
 namespace plotsmith {
 namespace {
@@ -40,7 +40,7 @@ S Words(const S& text) {
 
 /// Returns a message in the format of the help, with "NAME" in place of names.
 S WithoutNames(const S& message) {
-  return Words(std::regex_replace(message, std::regex("'(/TKN/|Data[0-9])'"), "'NAME'"));
+  return Words(test::WithMatches(message, "'(/TKN/|Data[0-9])'", "'NAME'"));
 }
 
 S TextOf(const pugi::xml_node& node) {
@@ -193,13 +193,13 @@ std::vector<Walk> Walks() {
 
 /// Returns the texts of at least four words in a source file, which are its messages.
 std::set<S> SentencesOf(const S& file) {
-  const std::regex comment("//[^\n]*"), literal("(?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+"), seam("\"\\s*\""),
-      lineBreak(R"(\\r\\n)");
+  const S comment = "//[^\n]*", literal = "(?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+", seam = "\"\\s*\"",
+          lineBreak = R"(\\r\\n)";
   const S source =
-      std::regex_replace(test::BytesOf(fs::path(test::kSourceFolder) / "src" / file), comment, "");
+      test::WithMatches(test::BytesOf(fs::path(test::kSourceFolder) / "src" / file), comment, "");
   std::set<S> sentences;
-  for (std::sregex_iterator it(source.begin(), source.end(), literal), end; it != end; ++it) {
-    const S text = std::regex_replace(std::regex_replace(it->str(), seam, ""), lineBreak, " ");
+  for (const test::Match& match : test::MatchesOf(source, literal)) {
+    const S text = test::WithMatches(test::WithMatches(match[0], seam, ""), lineBreak, " ");
     const S sentence = WithoutNames(runtime::Replace(text, "\"", ""));
     if (std::ranges::count(sentence, ' ') >= 3) sentences.insert(sentence);
   }
@@ -312,22 +312,18 @@ TEST_F(HelpTopicsTest, LinksAndPicturesExist) {
 }
 
 TEST_F(HelpTopicsTest, TheLanguageIsPlain) {
-  const std::regex fancy(
-      "\\b(whoever|nobody|likewise|stands for|hangs on|utili[sz]e|aforementioned|e\\.g\\.|i\\.e\\.)",
-      std::regex::icase);
-  const std::regex sentence("[^.!?]+[.!?]");
+  const S fancy =
+      "\\b(WHOEVER|NOBODY|LIKEWISE|STANDS FOR|HANGS ON|UTILI[SZ]E|AFOREMENTIONED|E\\.G\\.|I\\.E\\.)";
   for (const TopicRow& row : TopicRows()) {
     SCOPED_TRACE(row.file);
     const S html = test::BytesOf(kHelp / row.file);
     EXPECT_TRUE(std::ranges::all_of(html, [](char c) { return static_cast<unsigned char>(c) < 128; }))
         << "write other characters as &#NUMBER;";
     const HelpFile help = Read(row.file);
-    std::smatch found;
-    EXPECT_FALSE(std::regex_search(help.text, found, fancy)) << found.str();
+    EXPECT_EQ(test::MatchesOf(runtime::UCase(help.text), fancy), std::vector<test::Match>());
     for (const auto& paragraph : help.document.select_nodes("//p[not(@class)] | //li")) {
-      const S text = TextOf(paragraph.node());
-      for (std::sregex_iterator it(text.begin(), text.end(), sentence), end; it != end; ++it)
-        EXPECT_LE(std::ranges::count(it->str(), ' '), 45) << "a long sentence: " << it->str();
+      for (const test::Match& sentence : test::MatchesOf(TextOf(paragraph.node()), "[^.!?]+[.!?]"))
+        EXPECT_LE(std::ranges::count(sentence[0], ' '), 45) << "a long sentence: " << sentence[0];
     }
   }
 }

@@ -3,7 +3,6 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <map>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <stdexcept>
@@ -12,6 +11,7 @@
 
 #include "tests/support/Files.h"
 #include "tests/support/Paths.h"
+#include "tests/support/Patterns.h"
 
 namespace plotsmith {
 namespace {
@@ -95,12 +95,9 @@ class HouseRulesTest : public ::testing::Test {
   }
 
   static std::vector<std::string> IncludesIn(const std::string& text) {
-    static const std::regex kInclude("#include \"([^\"]+/[^\"]+)\"");
     std::vector<std::string> includes;
-    for (auto it = std::sregex_iterator(text.begin(), text.end(), kInclude); it != std::sregex_iterator();
-         ++it) {
-      includes.push_back((*it)[1]);
-    }
+    for (const test::Match& include : test::MatchesOf(text, "#include \"([^\"]+/[^\"]+)\""))
+      includes.push_back(include[1]);
     return includes;
   }
 

@@ -3,13 +3,13 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <regex>
 #include <set>
 #include <string>
 
 #include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
+#include "tests/support/Patterns.h"
 
 namespace plotsmith {
 namespace {
@@ -53,13 +53,13 @@ TEST_F(InstallTest, EveryFileIsInstalledAndRemoved) {
   EXPECT_EQ(Shell(command + " render " + book + " -o " + (folder_ / "charts.pdf")), 0);
 
   // Links between pages, and to pictures and examples, must be valid.
-  const std::regex link(R"x((?:\]\(|src=")([^)"#:]+))x");
-  int links = 0;
+  std::size_t links = 0;
   for (const S& file : files) {
     if (!file.ends_with(".md")) continue;
-    const S text = test::BytesOf(prefix_ / file);
-    for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it, ++links)
-      EXPECT_TRUE(fs::exists((prefix_ / file).parent_path() / S((*it)[1]))) << file << ": " << (*it)[1];
+    const auto found = test::MatchesOf(test::BytesOf(prefix_ / file), R"x((?:\]\(|src=")([^)"#:]+))x");
+    links += found.size();
+    for (const test::Match& link : found)
+      EXPECT_TRUE(fs::exists((prefix_ / file).parent_path() / link[1])) << file << ": " << link[1];
   }
   EXPECT_GT(links, 50);
 

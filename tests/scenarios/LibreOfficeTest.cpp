@@ -2,13 +2,13 @@
 #include <cstdlib>
 #include <fstream>
 #include <optional>
-#include <regex>
 #include <set>
 #include <vector>
 
 #include "runtime/Variant.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
+#include "tests/support/Patterns.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/Xml.h"
@@ -99,10 +99,10 @@ class LibreOfficeTest : public test::HostTest {
   }
   /// Returns the left edges of the texts in the drawn legend, from the left edge of the chart.
   static std::set<S> LegendTextLefts(const S& content) {
-    static const std::regex text("draw:name=\"[^\"]* Text\"[^>]* svg:x=\"([^\"]*)\"");
     std::set<S> lefts;
-    for (std::sregex_iterator it(content.begin(), content.end(), text), end; it != end; ++it)
-      lefts.insert((*it)[1]);
+    for (const test::Match& text :
+         test::MatchesOf(content, "draw:name=\"[^\"]* Text\"[^>]* svg:x=\"([^\"]*)\""))
+      lefts.insert(text[1]);
     return lefts;
   }
   static S Class(const S& content) {

@@ -1,7 +1,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <regex>
 #include <set>
 #include <sstream>
 #include <vector>
@@ -10,6 +9,7 @@
 #include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
+#include "tests/support/Patterns.h"
 #include "tests/support/RunCommand.h"
 #include "xlsx/Worksheet.h"
 
@@ -60,7 +60,7 @@ TEST_F(NewcomerTest, TheReadmesWorkbookIsRefreshed) {
     last = Shell(Replaced(line, "book.xlsx", folder_ / "book.xlsx"));
     if (line.find("write_book") == S::npos) continue;
     // The script writes the definition that the page shows above it.
-    const S definition = std::regex_replace(Block(readme_, "xml\n"), std::regex("\n *"), "");
+    const S definition = test::WithMatches(Block(readme_, "xml\n"), "\n *", "");
     EXPECT_EQ(Shell(S(test::kCommand) + " cells " + (folder_ / "book.xlsx") + " 'VEX_ChartDefinitions!A2'"),
               definition + "\n");
   }
@@ -92,7 +92,7 @@ TEST_F(NewcomerTest, TheDefinitionsOfThePageOfFormatsAreDrawn) {
     SCOPED_TRACE(type);
     const auto begin = page.rfind("<chart ", page.find("type=\"" + type + "\""));
     S definition = page.substr(begin, page.find("```", begin) - begin);
-    definition = std::regex_replace(definition, std::regex("id=\"VEX_Chart[0-9]\""), "id=\"VEX_Chart1\"");
+    definition = test::WithMatches(definition, "id=\"VEX_Chart[0-9]\"", "id=\"VEX_Chart1\"");
     {
       const auto host = xlsx::Application::Create();
       host->Open((kRoot / "examples" / (example + ".xlsx")).string());
@@ -147,35 +147,33 @@ TEST_F(NewcomerTest, TheScriptsOfTheWizardsPagePrintItsOutput) {
   EXPECT_GE(scripts, 10);
   std::set<S> types;
   const S charts = test::RunCommand({"charts", book}).out;
-  const std::regex type("  ([a-z ]+) chart on sheet");
-  for (std::sregex_iterator it(charts.begin(), charts.end(), type), last; it != last; ++it)
-    types.insert((*it)[1]);
+  for (const test::Match& type : test::MatchesOf(charts, "  ([a-z ]+) chart on sheet")) types.insert(type[1]);
   EXPECT_EQ(types, (std::set<S>{"area", "bar", "bubble", "column", "pie", "strategic bucket"}));
 }
 
 TEST_F(NewcomerTest, TheReadmeNamesEachVerb) {
-  const std::regex row("\n\\| `([a-z-]+)[ `]");
   std::set<S> named, verbs;
-  for (std::sregex_iterator it(readme_.begin(), readme_.end(), row), end; it != end; ++it)
-    named.insert((*it)[1]);
+  for (const test::Match& row : test::MatchesOf(readme_, "\n\\| `([a-z-]+)[ `]")) named.insert(row[1]);
   for (const CLI::App* verb : cli::CommandLine().verbs) verbs.insert(verb->get_name());
   EXPECT_EQ(named, verbs);
 }
 
 TEST_F(NewcomerTest, LinksAndPathsOfThePagesAreValid) {
-  const std::regex link(R"x((?:\]\(|src=")([^)"#:]+))x"),
-      path(R"(`((?:src|tests|docs|examples|scripts|fuzz|bench)/[A-Za-z/_.-]*[a-z])`)");
+  const S link = R"x((?:\]\(|src=")([^)"#:]+))x",
+          path = R"(`((?:src|tests|docs|examples|scripts|fuzz|bench)/[A-Za-z/_.-]*[a-z])`)";
   std::vector<fs::path> pages = {kRoot / "README.md"};
   for (const auto& entry : fs::directory_iterator(kRoot / "docs")) {
     if (entry.path().extension() == ".md") pages.push_back(entry.path());
   }
-  int links = 0;
+  std::size_t links = 0;
   for (const fs::path& page : pages) {
     const S text = test::BytesOf(page);
-    for (std::sregex_iterator it(text.begin(), text.end(), link), end; it != end; ++it, ++links)
-      EXPECT_TRUE(fs::exists(page.parent_path() / S((*it)[1]))) << page << ": " << (*it)[1];
-    for (std::sregex_iterator it(text.begin(), text.end(), path), end; it != end; ++it)
-      EXPECT_TRUE(fs::exists(kRoot / S((*it)[1]))) << page << ": " << (*it)[1];
+    const auto found = test::MatchesOf(text, link);
+    links += found.size();
+    for (const test::Match& match : found)
+      EXPECT_TRUE(fs::exists(page.parent_path() / match[1])) << page << ": " << match[1];
+    for (const test::Match& match : test::MatchesOf(text, path))
+      EXPECT_TRUE(fs::exists(kRoot / match[1])) << page << ": " << match[1];
   }
   EXPECT_GT(links, 50);
 }

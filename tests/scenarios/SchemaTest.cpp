@@ -140,6 +140,7 @@ TEST_F(SchemaTest, ChartsOfEveryKindFromEmptyFrames) {
 
 TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
   int taken = 0;
+  std::size_t book = 0;
   const auto kinds = AllKinds();
   std::vector<fs::path> files;
   for (const char* folder : {"charts", "real"}) {
@@ -151,7 +152,8 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
   std::sort(files.begin(), files.end());
   if (files.empty()) GTEST_SKIP() << "the corpus is missing";
   for (const fs::path& file : files) {
-    for (std::size_t pass = 0; pass < kinds.size(); ++pass) {
+    // Three of the nine types begin in each workbook, so that each begins in a third of them.
+    for (std::size_t pass = book++ % 3; pass < kinds.size(); pass += 3) {
       const S version = kVersions[pass % 2];
       SCOPED_TRACE(file.filename().string() + ", beginning with a " + kinds[pass].type + " " + version);
       OpenFile(file.string(), version);
@@ -201,7 +203,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
       ++taken;
     }
   }
-  EXPECT_GT(taken, 500);
+  EXPECT_GT(taken, 150);
 }
 
 TEST_F(SchemaTest, OutputOfTheWizardsVerbs) {

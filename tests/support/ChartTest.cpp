@@ -95,7 +95,7 @@ pugi::xml_node Child(pugi::xml_node parent, const std::string& name) {
   return parent.find_child([&](pugi::xml_node child) { return Local(child) == name; });
 }
 
-std::string Val(pugi::xml_node parent, const std::string& name) {
+std::string ValOf(pugi::xml_node parent, const std::string& name) {
   return Child(parent, name).attribute("val").value();
 }
 
@@ -146,11 +146,12 @@ class Complaints {
   void CheckAxes(pugi::xml_node plotArea) {
     std::set<std::string> axes, used;
     for (const pugi::xml_node& child : plotArea.children()) {
-      if (Local(child).ends_with("Ax") && !axes.insert(Val(child, "axId")).second) text_ << "axId twice\n";
+      if (Local(child).ends_with("Ax") && !axes.insert(ValOf(child, "axId")).second) text_ << "axId twice\n";
     }
     for (const pugi::xml_node& child : plotArea.children()) {
       const bool group = Local(child).ends_with("Chart");
-      if (Local(child).ends_with("Ax") && !axes.contains(Val(child, "crossAx"))) text_ << "crosses nothing\n";
+      if (Local(child).ends_with("Ax") && !axes.contains(ValOf(child, "crossAx")))
+        text_ << "crosses nothing\n";
       for (const pugi::xml_node& link : child.children()) {
         const std::string id = link.attribute("val").value();
         if (!group || Local(link) != "axId" || id == "0") continue;
@@ -166,7 +167,7 @@ class Complaints {
     while (group && !Local(group).ends_with("Chart")) group = group.parent();
     const auto places = kLabelPlaces.find(Local(group));
     const std::string wanted = std::string(" ") + place.attribute("val").value() + " ";
-    const bool stacked = Val(group, "grouping").find("tacked") != std::string::npos;
+    const bool stacked = ValOf(group, "grouping").find("tacked") != std::string::npos;
     if (places == kLabelPlaces.end() || places->second.find(wanted) == std::string::npos ||
         (stacked && wanted == " outEnd ")) {
       text_ << "labels at" << wanted << "in " << Local(group) << "\n";
@@ -208,12 +209,6 @@ std::string ChartComplaints(const std::string& part) {
 }
 
 bool Has(const std::string& text, const std::string& what) { return text.find(what) != std::string::npos; }
-
-std::size_t CountOf(const std::string& text, const std::string& what) {
-  std::size_t count = 0;
-  for (auto at = text.find(what); at != std::string::npos; at = text.find(what, at + 1)) ++count;
-  return count;
-}
 
 void DeleteSeries(excel::Chart& chart) {
   while (chart.SeriesCollection()->Count() > 0) chart.SeriesCollection()->Item(1)->Delete();

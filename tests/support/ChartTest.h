@@ -13,7 +13,6 @@ std::string ChartPartXml(const std::string& chart, const std::string& behind = "
 /// Returns the text from `from`, inclusive, to the next `to`, exclusive.
 std::string Between(const std::string& text, const std::string& from, const std::string& to);
 bool Has(const std::string& text, const std::string& what);
-std::size_t CountOf(const std::string& text, const std::string& what);
 void ExpectError1004(const std::function<void()>& call);
 
 /// Returns the errors of a chart part according to ECMA-376-1, 21.2.2, one per line: order and number of the

@@ -45,7 +45,7 @@ class PagesDesktop final : public cli::ConsoleDesktop {
 };
 
 /// Returns the names of the controls for which `mark` returns a text, each followed by that text.
-S Names(const forms::Form& form, const std::function<std::optional<S>(Control&)>& mark) {
+S NamesOf(const forms::Form& form, const std::function<std::optional<S>(Control&)>& mark) {
   S names;
   for (Control* control : form.Controls()) {
     if (const auto behind = mark(*control))
@@ -96,10 +96,10 @@ S Seen(const forms::Form& form, const S& what) {
   if (const auto* grid = dynamic_cast<const forms::VSFlexGrid*>(form.FindControl(what)))
     return CellsOf(*grid);
   if (what == "focus") return form.ActiveControl() == nullptr ? "" : form.ActiveControl()->FullName();
-  if (what == "default") return Names(form, DefaultMark);
-  if (what == "off") return Names(form, OffMark);
-  if (what == "pictures") return Names(form, PictureMark);
-  if (what == "marked") return Names(form, MarkedMark);
+  if (what == "default") return NamesOf(form, DefaultMark);
+  if (what == "off") return NamesOf(form, OffMark);
+  if (what == "pictures") return NamesOf(form, PictureMark);
+  if (what == "marked") return NamesOf(form, MarkedMark);
   throw forms::ScriptError("nothing is known of " + what);
 }
 

@@ -45,7 +45,7 @@ std::string Letters(int column) {
   return letters;
 }
 
-std::string NumberText(double value) {
+std::string DigitsOf(double value) {
   std::array<char, 32> text;
   return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
 }
@@ -145,7 +145,7 @@ void PlainBook::Write(const std::string& path) const {
         const PlainCell& cell = sheet.rows[i][j];
         const std::string start = "<c r=\"" + Letters(sheet.left + static_cast<int>(j)) + row + "\"";
         if (const auto* number = std::get_if<double>(&cell)) {
-          xml += start + "><v>" + NumberText(*number) + "</v></c>";
+          xml += start + "><v>" + DigitsOf(*number) + "</v></c>";
         } else if (const auto* raw = std::get_if<RawCell>(&cell)) {
           xml += start + raw->xml;
         } else if (const auto* text = std::get_if<std::string>(&cell)) {

@@ -12,7 +12,7 @@ namespace {
 using namespace test;
 using S = std::string;
 
-const S kDrawing = "/xl/drawings/drawing2.xml", kDrawingLinks = "/xl/drawings/_rels/drawing2.xml.rels";
+const S kDrawing2 = "/xl/drawings/drawing2.xml", kDrawing2Links = "/xl/drawings/_rels/drawing2.xml.rels";
 const S kTypes = "/[Content_Types].xml";
 
 S Link(const S& id, const S& type, const S& target) {
@@ -61,8 +61,8 @@ class DeletedChartTest : public test::HostTest {
         {"xl/media/trend.bin", "trend"},
         {"xl/media/photo.bin", "photo"}};
     book.Write(folder_ / "book.xlsx");
-    test::EditPart(folder_ / "book.xlsx", kDrawingLinks, [&](S& text) { text = Links(links); });
-    test::EditPart(folder_ / "book.xlsx", kDrawing,
+    test::EditPart(folder_ / "book.xlsx", kDrawing2Links, [&](S& text) { text = Links(links); });
+    test::EditPart(folder_ / "book.xlsx", kDrawing2,
                    [&](S& text) { text = runtime::Replace(text, "\"rId2\"", "\"" + secondChart + "\""); });
     test::EditPart(folder_ / "book.xlsx", kTypes, [&](S& text) {
       for (const S part : {"charts/style1", "charts/colors1", "drawings/drawing9"}) {
@@ -134,14 +134,14 @@ TEST_F(DeletedChartTest, PartsOfADeletedChartAreRemoved) {
     EXPECT_EQ(Book().FindWorksheet("Charts")->Shapes()->Count(), shapes - 1);
     const auto before = Package::Open(folder_ / "book.xlsx"), after = Package::Open(folder_ / "saved.xlsx");
     std::vector<S> ids;
-    for (const Relationship& link : before.Relationships(kDrawing)) {
+    for (const Relationship& link : before.Relationships(kDrawing2)) {
       if (link.id != c.goneLink) ids.push_back(link.id);
     }
-    for (const Relationship& link : after.Relationships(kDrawing)) std::erase(ids, link.id);
+    for (const Relationship& link : after.Relationships(kDrawing2)) std::erase(ids, link.id);
     EXPECT_EQ(ids, std::vector<S>{});
-    EXPECT_FALSE(after.FindRelationship(kDrawing, c.goneLink));
+    EXPECT_FALSE(after.FindRelationship(kDrawing2, c.goneLink));
     for (const S& part : after.Parts()) {
-      const bool ofDrawing = part == kDrawing || part == kDrawingLinks || part == kTypes;
+      const bool ofDrawing = part == kDrawing2 || part == kDrawing2Links || part == kTypes;
       const bool changed = part.starts_with("/xl/charts/chart") || part.starts_with("/xl/theme") ||
                            part.starts_with("/xl/_rels");
       if (ofDrawing || (changed && c.gone.empty())) continue;

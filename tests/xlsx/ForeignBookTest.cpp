@@ -21,7 +21,7 @@ using S = std::string;
 using Edit = std::function<S(const S&)>;
 
 constexpr const char* kSheet1 = "/xl/worksheets/sheet1.xml";
-constexpr const char* kWorkbook = "/xl/workbook.xml";
+constexpr const char* kWorkbookPart = "/xl/workbook.xml";
 
 /// Tests workbooks with the peculiarities of other programs.
 class ForeignBookTest : public test::HostTest {
@@ -84,14 +84,14 @@ TEST_F(ForeignBookTest, PartsInOtherEncodingsAreReadAndFollowed) {
         "Ö", "\xD6");
   };
   for (const Edit& encoded : {Edit(utf16), Edit(latin1)}) {
-    OpenEdited(book, {{kSheet1, encoded}, {"/xl/worksheets/sheet4.xml", encoded}, {kWorkbook, encoded}});
+    OpenEdited(book, {{kSheet1, encoded}, {"/xl/worksheets/sheet4.xml", encoded}, {kWorkbookPart, encoded}});
     Refresh();
     AddBox("Data1");
     Sheet("VEX_ChartData")->InsertRow(1);
     SaveAndReopen();
     EXPECT_TRUE(Messages().empty());
     EXPECT_EQ(Cells("VEX_ChartData", 3, 2, 3, 2), "Östen");
-    for (const S& part : {S(kSheet1), S("/xl/worksheets/sheet4.xml"), S(kWorkbook)}) {
+    for (const S& part : {S(kSheet1), S("/xl/worksheets/sheet4.xml"), S(kWorkbookPart)}) {
       EXPECT_TRUE(SavedPart(part).starts_with("<?xml version=\"1.0\" encoding=\"UTF-8\"?>")) << part;
     }
     EXPECT_TRUE(Holds("/xl/worksheets/sheet4.xml", "<f>VEX_ChartData!C2</f>"));
@@ -197,14 +197,14 @@ TEST_F(ForeignBookTest, ExtremeNumbersAreLimited) {
       "<c:layout/><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"clustered\"/><c:ser><c:idx "
       "val=\"9223372036854775807\"/><c:order val=\"9223372036854775807\"/></c:ser></c:barChart>");
   OpenEdited(
-      book, {{kWorkbook, Replacing("sheetId=\"3\"", "sheetId=\"65534\"")},
+      book, {{kWorkbookPart, Replacing("sheetId=\"3\"", "sheetId=\"65534\"")},
              {"/xl/drawings/drawing2.xml", Replacing("cNvPr id=\"3\"", "cNvPr id=\"9223372036854775807\"")}});
   AddBox("Charts");
   Book().AddWorksheet(0)->SetCellValueAt(1, 1, 1.0);
   Sheet("Sheet1")->SetNumberFormat({1, 1, 1, 1}, "0.000");
   Refresh();
   SaveAndReopen();
-  const S workbook = SavedPart(kWorkbook);
+  const S workbook = SavedPart(kWorkbookPart);
   EXPECT_NE(workbook.find("<sheet name=\"Sheet1\" sheetId=\"3\""), S::npos) << workbook;
   EXPECT_NE(workbook.find("<sheet name=\"VEX_ChartData\" sheetId=\"4\""), S::npos) << workbook;
   EXPECT_NE(workbook.find("<workbookView activeTab=\"3\"/>"), S::npos) << "all windows: " << workbook;
@@ -221,8 +221,8 @@ TEST_F(ForeignBookTest, TheFirstStyleStaysThatOfAllOtherCells) {
     const S main = strict ? "http://purl.oclc.org/ooxml/spreadsheetml/main"
                           : "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
     if (!strict) book.styles = "<styleSheet xmlns=\"" + main + "\"/>";
-    OpenEdited(book,
-               {{kWorkbook, Replacing("http://schemas.openxmlformats.org/spreadsheetml/2006/main", main)}});
+    OpenEdited(book, {{kWorkbookPart,
+                       Replacing("http://schemas.openxmlformats.org/spreadsheetml/2006/main", main)}});
     Book().AddWorksheet(0)->SetCellValueAt(1, 1, 0.5);
     Sheet("Sheet1")->SetNumberFormat({1, 1, 1, 1}, "0%");
     SaveAndReopen();

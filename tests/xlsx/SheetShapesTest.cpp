@@ -1,7 +1,7 @@
 #include <limits>
-#include <regex>
 
 #include "tests/support/ChartTest.h"
+#include "tests/support/Patterns.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/drawing/ShapeEnumerations.h"
 
@@ -137,8 +137,7 @@ TEST(ShapeEnumerationsTest, ConvertBothWays) {
   for (const Enumeration* enumeration :
        {&kAutoShapes, &kAutoSizes, &kHorizontalAlignments, &kVerticalAlignments}) {
     for (const EnumerationEntry& entry : enumeration->entries) {
-      EXPECT_TRUE(
-          std::regex_match(S(entry.name), std::regex("(msoShape|msoAutoSize|xl)[A-Z0-9][A-Za-z0-9]*")))
+      EXPECT_TRUE(test::IsMatch(S(entry.name), "(msoShape|msoAutoSize|xl)[A-Z0-9][A-Za-z0-9]*"))
           << entry.name;
       EXPECT_EQ(enumeration->Token(entry.number), entry.token) << entry.name;
       EXPECT_EQ(enumeration->Number(entry.token), entry.number) << entry.name;

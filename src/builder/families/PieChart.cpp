@@ -13,7 +13,7 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-std::int32_t ChartTypeOfSum(std::int32_t lSum) {
+std::int32_t PieTypeOfSum(std::int32_t lSum) {
   switch (lSum) {
     case 1:
       return excel::xl3DPie;
@@ -59,7 +59,7 @@ void SetPieChartAttributes(const IXMLDOMElement& oChartElement) {
                   excel::xlLabelPositionBestFit);
     }
 
-    mChart->SetChartType(ChartTypeOfSum(SumOfSettings(oChartElement, {{"3D", 1}, {"exploded", 2}}, true)));
+    mChart->SetChartType(PieTypeOfSum(SumOfSettings(oChartElement, {{"3D", 1}, {"exploded", 2}}, true)));
     ApplyLegendVisibility();
     // Unlike other families, a pie has a legend unless a user has deleted it.
     if (mLegendVisibility != "show" && mLegendVisibility != "hide") mChart->SetHasLegend(true);

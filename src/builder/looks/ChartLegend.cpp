@@ -26,8 +26,8 @@ constexpr const char* kLegendName = "VEX_Legend";
 constexpr const char* kEntryMark = "VEX_LS_";
 constexpr const char* kOwnMark = "VEX_L";  // the alternative text of the legend and its entries
 constexpr double kWidestMargin = 15;       // points beside a plot area without a legend
-constexpr std::int32_t kBlack = 0;
-constexpr std::int32_t kWhite = 0xFFFFFF;
+constexpr std::int32_t kBlackRgb = 0;
+constexpr std::int32_t kWhiteRgb = 0xFFFFFF;
 
 bool Contains(const std::string& sText, const char* sPart) { return sText.find(sPart) != std::string::npos; }
 
@@ -121,8 +121,8 @@ void AddEntryKey(const std::string& sName, double dFontSize, const CPSColor& oCo
     oLine->SetVisible(false);
   } else {
     oLine->SetWeight(1);
-    oLine->ForeColor()->SetRGB(kWhite);
-    oLine->BackColor()->SetRGB(kBlack);
+    oLine->ForeColor()->SetRGB(kWhiteRgb);
+    oLine->BackColor()->SetRGB(kBlackRgb);
     oLine->SetVisible(true);
   }
   oExtent.lItemRight = CLng(oKey->Width() + oExtent.lItemRight);

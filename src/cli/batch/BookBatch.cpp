@@ -19,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// Returns the canonical path, so that two names of one file are equal.
-fs::path Place(const std::string& path) {
+fs::path CanonicalPath(const std::string& path) {
   std::error_code error;
   const fs::path place = fs::weakly_canonical(runtime::PathOf(path), error);
   return error ? runtime::PathOf(path) : place;
@@ -29,7 +29,7 @@ std::vector<std::string> EachOnce(const std::vector<std::string>& books) {
   std::vector<std::string> once;
   std::set<fs::path> places;
   for (const std::string& book : books) {
-    if (places.insert(Place(book)).second) once.push_back(book);
+    if (places.insert(CanonicalPath(book)).second) once.push_back(book);
   }
   return once;
 }
@@ -47,7 +47,7 @@ std::vector<BookRun> RunsInto(const std::string& folder, const std::vector<std::
                                                 folder + "\".");
     }
     const std::string output = runtime::Utf8Of(runtime::PathOf(folder) / runtime::PathOf(name));
-    if (Place(output) == Place(book)) {
+    if (CanonicalPath(output) == CanonicalPath(book)) {
       throw CommandError(exit_code::kUsage, "\"" + book + "\" is in the folder \"" + folder +
                                                 "\" itself; without -o it is refreshed in place.");
     }

@@ -8,16 +8,16 @@
 namespace plotsmith::cli {
 namespace {
 
-using Names = std::vector<std::string_view>;
+using Tokens = std::vector<std::string_view>;
 
-const Names kTypes = {"area", "bar", "column", "pie", "bubble", "strategic bucket"};
-const Names kPivotTypes = {"area", "bar", "column", "pie"};
-const Names kBlockTypes = {"bubble", "strategic bucket"};
-const Names kYesNo = {"yes", "no"};
+const Tokens kTypeNames = {"area", "bar", "column", "pie", "bubble", "strategic bucket"};
+const Tokens kPivotTypes = {"area", "bar", "column", "pie"};
+const Tokens kBlockTypes = {"bubble", "strategic bucket"};
+const Tokens kYesNo = {"yes", "no"};
 
 struct AttributeFormat {
   std::string_view name;
-  Names values = {};      ///< The valid values; empty means any.
+  Tokens values = {};     ///< The valid values; empty means any.
   bool required = false;  ///< Whether it is required; an empty value counts as missing.
   bool isOwn = false;     ///< Whether only the system writes it.
 };
@@ -32,16 +32,16 @@ struct ElementFormat {
 /// A setting that can be changed on the chart by hand, with the chart types that have it.
 struct DynamicSetting {
   std::string_view name;
-  Names types;
+  Tokens types;
 };
 
 // A strategic bucket chart is drawn as stacked columns, so reading it back can find this setting.
-const DynamicSetting kDynamicSettings[] = {{"3D", kTypes},
+const DynamicSetting kDynamicSettings[] = {{"3D", kTypeNames},
                                            {"stacked", {"area", "bar", "column", "strategic bucket"}},
                                            {"100%", {"area", "bar", "column", "strategic bucket"}},
                                            {"exploded", {"pie"}}};
 
-ElementFormat SettingFormat(Names settings) {
+ElementFormat SettingFormat(Tokens settings) {
   return {.name = "attribute",
           .attributes = {{.name = "setting", .values = std::move(settings), .required = true}},
           .repeated = true};
@@ -62,7 +62,7 @@ ElementFormat PersistFormat() {
       AppendFont(list, stem);
     return list;
   }();
-  const Names names(properties.begin(), properties.end());
+  const Tokens names(properties.begin(), properties.end());
   return {.name = "persist",
           .attributes = {{.name = "property", .values = names, .required = true}, {"value"}},
           .repeated = true};
@@ -89,7 +89,7 @@ std::vector<ElementFormat> GroupFormats() {
 std::vector<AttributeFormat> ChartAttributes() {
   std::vector<AttributeFormat> attributes = {
       {"id"},           {"name"},
-      {"title"},        {.name = "type", .values = kTypes, .required = true},
+      {"title"},        {.name = "type", .values = kTypeNames, .required = true},
       {"table-id"},     {"strategic-bucket-table-id"},
       {"number-format"}};
   for (const char* name :
@@ -132,7 +132,7 @@ const ElementFormat& ChartFormat() {
 /// The system ignores namespace declarations and attributes of other namespaces.
 bool IsForeign(const std::string& name) { return name == "xmlns" || name.find(':') != std::string::npos; }
 
-bool Contains(const Names& names, std::string_view name) {
+bool Contains(const Tokens& names, std::string_view name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
@@ -168,7 +168,7 @@ class FormatCheck {
   /// Finds settings that the chart type doesn't have.
   void CheckSettings(const dom::IXMLDOMElement& chart) {
     const std::string type = GetAttributeText(chart, "type");
-    const bool isKnownType = Contains(kTypes, type);
+    const bool isKnownType = Contains(kTypeNames, type);
     std::vector<std::string> allowed;
     for (const DynamicSetting& setting : kDynamicSettings) {
       if (!isKnownType || Contains(setting.types, type)) allowed.emplace_back(setting.name);
@@ -182,7 +182,7 @@ class FormatCheck {
   }
   /// Finds invalid values of look properties.
   void CheckPersisted(const dom::IXMLDOMElement& chart) {
-    const std::pair<std::string_view, Names> values[] = {
+    const std::pair<std::string_view, Tokens> values[] = {
         {"legend-visibility", {"show", "hide"}},
         {"-font-style", {"Regular", "Bold", "Italic", "Bold Italic"}},
         {"-font-autoscale", {"True", "False"}}};
@@ -228,7 +228,7 @@ class FormatCheck {
 
   void CheckValue(const AttributeFormat& attribute, const std::string& value) {
     if (value.empty() || attribute.values.empty() || Contains(attribute.values, value)) return;
-    if (attribute.values == kTypes && value == "unknown") {
+    if (attribute.values == kTypeNames && value == "unknown") {
       Report("The type is 'unknown', because the chart was changed by hand to a type that isn't supported" +
              Allowed(attribute));
     } else {
@@ -238,7 +238,7 @@ class FormatCheck {
   }
 
   void CheckChildren(const dom::IXMLDOMElement& element, const ElementFormat& format) {
-    Names seen;
+    Tokens seen;
     for (const dom::IXMLDOMElement& child : element.childElements()) {
       const std::string name = child.tagName();
       const auto known = std::find_if(format.children.begin(), format.children.end(),
@@ -275,11 +275,11 @@ bool ColumnGroup::IsNeededFor(std::string_view type) const { return Contains(nee
 
 const std::vector<ColumnGroup>& ColumnGroups() {
   static const std::vector<ColumnGroup> groups = [] {
-    Names valueTypes = kPivotTypes;
+    Tokens valueTypes = kPivotTypes;
     valueTypes.emplace_back("bubble");
     return std::vector<ColumnGroup>{
-        {"categories", kTypes, kTypes, false, {"rows", "columns"}},
-        {"series", kTypes, kPivotTypes, false, {"rows", "columns", "none"}},
+        {"categories", kTypeNames, kTypeNames, false, {"rows", "columns"}},
+        {"series", kTypeNames, kPivotTypes, false, {"rows", "columns", "none"}},
         {"values", valueTypes, {"bubble"}, true},  // For other types, number columns can replace it.
         {"x-values", {"bubble"}, {}, true},
         {"bubble-sizes", {"bubble"}, {}, true},

@@ -16,7 +16,7 @@ namespace {
 
 using dom::IXMLDOMElement;
 
-constexpr const char* kBubbleType = "bubble";
+constexpr const char* kBubble = "bubble";
 
 /// Returns the name of a chart for messages, or its id if it has no name; "" for a row that has neither.
 std::string Called(const std::string& id, const std::string& name) {
@@ -74,7 +74,7 @@ void RunCheck::ChartStarted(const std::string& id) {
   Findings& findings = started_[id];
   findings = CheckSources(book_, chart, "");
   CompareStored();
-  if (GetAttributeText(chart, "type") == kBubbleType &&
+  if (GetAttributeText(chart, "type") == kBubble &&
       std::none_of(findings.begin(), findings.end(), ForbidsDrawing)) {
     bubbles_.insert_or_assign(id, colTables->Item(GetAttributeText(chart, "table-id")));
   }

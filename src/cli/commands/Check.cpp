@@ -39,7 +39,7 @@ struct Report {
   }
 };
 
-Json Describe(const Findings& findings) {
+Json FactsOf(const Findings& findings) {
   Json list = Json::array();
   for (const Finding& finding : findings) {
     list.push_back({{"place", finding.place},
@@ -50,26 +50,26 @@ Json Describe(const Findings& findings) {
   return list;
 }
 
-Json Describe(const CheckedDefinition& definition) {
+Json FactsOf(const CheckedDefinition& definition) {
   return {{"place", definition.place},
           {"id", definition.id},
           {"name", definition.name},
           {"type", definition.type},
           {"table", definition.table},
           {"chartSheet", definition.chartSheet},
-          {"findings", Describe(definition.findings)}};
+          {"findings", FactsOf(definition.findings)}};
 }
 
-Json Describe(const CheckedTable& checked) {
+Json FactsOf(const CheckedTable& checked) {
   Json facts = checked.table ? TableFacts(checked.table) : Json{{"id", checked.id}};
-  facts["findings"] = Describe(checked.findings);
+  facts["findings"] = FactsOf(checked.findings);
   return facts;
 }
 
 template <class List>
-Json DescribeAll(const List& list) {
+Json FactsOfAll(const List& list) {
   Json described = Json::array();
-  for (const auto& item : list) described.push_back(Describe(item));
+  for (const auto& item : list) described.push_back(FactsOf(item));
   return described;
 }
 
@@ -155,9 +155,9 @@ int CheckCommand::Run(const GlobalOptions& options, const Streams& streams) {
   }
   const int code = session.Finish();
   if (json_) {
-    const Json json = {{"definitions", DescribeAll(report.definitions)},
-                       {"strayCharts", Describe(report.strayCharts)},
-                       {"tables", DescribeAll(report.tables)}};
+    const Json json = {{"definitions", FactsOfAll(report.definitions)},
+                       {"strayCharts", FactsOf(report.strayCharts)},
+                       {"tables", FactsOfAll(report.tables)}};
     streams.out << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
   } else {
     Print(streams.out, report);

@@ -7,8 +7,8 @@
 namespace plotsmith::pictures {
 namespace {
 
-constexpr Rgb kWhite{255, 255, 255};
-constexpr Rgb kBlack{0, 0, 0};
+constexpr Rgb kWhitePaint{255, 255, 255};
+constexpr Rgb kBlackPaint{0, 0, 0};
 /// The direction of the light, as a unit vector.
 constexpr Point kLight{-0.45, -0.89};
 /// Adjacent faces overlap by half of this, so that no background is visible between them.
@@ -61,7 +61,7 @@ Rgb Mix(Rgb oFrom, Rgb oTo, double dShare) {
 }
 
 Rgb Shade(Rgb oColor, double dAmount) {
-  return dAmount < 0 ? Mix(oColor, kBlack, -dAmount) : Mix(oColor, kWhite, dAmount);
+  return dAmount < 0 ? Mix(oColor, kBlackPaint, -dAmount) : Mix(oColor, kWhitePaint, dAmount);
 }
 
 void Canvas::FillPolygon(std::vector<Point> aPoints, Rgb oFill, std::optional<Outline> oOutline) {

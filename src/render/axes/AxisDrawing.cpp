@@ -54,8 +54,8 @@ std::vector<double> MinorPlaces(const AxisModel& axis, const AxisMap& map) {
   return places;
 }
 
-void DrawLines(Canvas& canvas, Role role, const AxisModel& axis, const std::vector<double>& places,
-               const Rect& plot, const Stroke& stroke) {
+void DrawAxisLines(Canvas& canvas, Role role, const AxisModel& axis, const std::vector<double>& places,
+                   const Rect& plot, const Stroke& stroke) {
   int number = 0;
   for (const double at : places) {
     const Tag tag{role, axis.number, ++number};
@@ -109,10 +109,11 @@ Point CenterOf(const AxisModel& axis, const TickLabels& labels, const TextBlock&
 void DrawGridlines(Canvas& canvas, const ChartModel& chart, const AxisModel& axis, const Rect& plot) {
   const AxisMap map = AxisMap::Along(axis, plot);
   if (axis.minorGridlines) {
-    DrawLines(canvas, Role::kMinorGridline, axis, MinorPlaces(axis, map), plot, *axis.minorGridlines);
+    DrawAxisLines(canvas, Role::kMinorGridline, axis, MinorPlaces(axis, map), plot, *axis.minorGridlines);
   }
   if (axis.majorGridlines) {
-    DrawLines(canvas, Role::kGridline, axis, MajorPlaces(axis, map, chart.dates), plot, *axis.majorGridlines);
+    DrawAxisLines(canvas, Role::kGridline, axis, MajorPlaces(axis, map, chart.dates), plot,
+                  *axis.majorGridlines);
   }
 }
 

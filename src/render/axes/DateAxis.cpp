@@ -13,7 +13,7 @@ using std::chrono::days;
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
-constexpr std::size_t kMostTicks = 400;
+constexpr std::size_t kMostDates = 400;
 constexpr double kUsualTicks = 32;  // most ticks of an axis without a unit
 
 /// The distance between two labels.
@@ -83,7 +83,7 @@ std::vector<DateTick> DateTicks(const AxisModel& axis, xlsx::DateSystem dates) {
   std::vector<DateTick> ticks;
   const DateSlots& slots = *axis.dates;
   const Step step = StepOf(slots);
-  for (long long i = 0; ticks.size() < kMostTicks; ++i) {
+  for (long long i = 0; ticks.size() < kMostDates; ++i) {
     const long long slot = TickSlot(slots, step, i);
     const auto place = static_cast<double>(slot - slots.first);
     if (!(place < slots.count)) break;

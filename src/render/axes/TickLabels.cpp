@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <utility>
 
 #include "render/axes/CategoryLevels.h"
@@ -12,7 +11,6 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kRadian = std::numbers::pi / 180;
 constexpr double kGapEms = 0.3;        // between horizontal neighbours
 constexpr double kLineSpacing = 1.15;  // distance of turned or wrapped labels in line heights
 constexpr double kUnitSpacing = 1.25;  // distance of labels along a vertical axis of values in line heights

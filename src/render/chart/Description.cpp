@@ -6,9 +6,9 @@ namespace plotsmith::render {
 namespace {
 
 // The points of all series together. A screen reader would read more for too long.
-constexpr std::size_t kMostPoints = 200;
+constexpr std::size_t kMostDescribed = 200;
 
-const char* NameOf(const GroupModel& group) {
+const char* KindName(const GroupModel& group) {
   switch (group.family) {
     case Family::kArea:
       return "Area chart";
@@ -75,10 +75,10 @@ std::string TextOf(const RichText& rich) {
 
 void Describe(const ChartModel& chart, Drawing& drawing) {
   if (chart.title) drawing.title = TextOf(chart.title->text);
-  if (drawing.title.empty() && !chart.groups.empty()) drawing.title = NameOf(chart.groups.front());
-  std::size_t left = kMostPoints;
+  if (drawing.title.empty() && !chart.groups.empty()) drawing.title = KindName(chart.groups.front());
+  std::size_t left = kMostDescribed;
   for (const GroupModel& group : chart.groups) {
-    drawing.description += std::string(drawing.description.empty() ? "" : "\n") + NameOf(group) + ".";
+    drawing.description += std::string(drawing.description.empty() ? "" : "\n") + KindName(group) + ".";
     for (const SeriesModel& series : group.series) {
       if (left == 0) break;
       drawing.description += "\n" + series.name + ":";

@@ -13,9 +13,9 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kGap = 3;            // points between a spoke or the web and its label
+constexpr double kWebGap = 3;         // points between a spoke or the web and its label
 constexpr double kWidestLabel = 0.3;  // share of the plot area
-constexpr double kLeastRadius = 0.3;  // smallest share of the radius that labels leave
+constexpr double kLeastWeb = 0.3;     // smallest share of the radius that labels leave
 constexpr std::size_t kMostSpokes = 1000;
 
 /// Returns the direction of a spoke as a vector of length 1. The first spoke goes up, the others follow
@@ -60,8 +60,8 @@ class Web {
     for (std::size_t i = 0; i < labels_.size(); ++i) {
       const TextBlock& block = labels_[i];
       const Point way = DirectionOf(i, count_), end = At(i, radius_);
-      const Point center{end.x + way.x * (block.TurnedWidth() / 2 + kGap),
-                         end.y + way.y * (block.TurnedHeight() / 2 + kGap)};
+      const Point center{end.x + way.x * (block.TurnedWidth() / 2 + kWebGap),
+                         end.y + way.y * (block.TurnedHeight() / 2 + kWebGap)};
       DrawBlock(plot_.canvas, {Role::kTickLabel, category_.number, static_cast<int>(i + 1)}, block, center);
     }
   }
@@ -132,13 +132,13 @@ class Web {
       const Point way{std::abs(DirectionOf(i, count_).x), std::abs(DirectionOf(i, count_).y)};
       const auto limit = [&](double share, double half, double extent) {
         constexpr double kFlat = 0.05;  // Labels of spokes along this side need no room at it.
-        if (share > kFlat) radius_ = std::min(radius_, (half - extent / 2) / share - extent / 2 - kGap);
+        if (share > kFlat) radius_ = std::min(radius_, (half - extent / 2) / share - extent / 2 - kWebGap);
       };
       limit(way.x, area.width / 2, block.TurnedWidth());
       limit(way.y, area.height / 2, block.TurnedHeight());
       labels_.push_back(std::move(block));
     }
-    radius_ = std::max(radius_, kLeastRadius * whole);
+    radius_ = std::max(radius_, kLeastWeb * whole);
   }
 
   void DrawValueLabels() {
@@ -149,7 +149,7 @@ class Web {
       const TextBlock block = LayOut(tick.label, style, plot_.canvas.Measure());
       const Point place = PlaceOf(0, tick.value);
       DrawBlock(plot_.canvas, {Role::kTickLabel, value_.number, ++number}, block,
-                {place.x - kGap - block.width / 2, place.y}, TextAlign::kEnd);
+                {place.x - kWebGap - block.width / 2, place.y}, TextAlign::kEnd);
     }
   }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "render/labels/LabelText.h"
 #include "render/labels/PieLabels.h"
@@ -12,7 +11,6 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kRadian = std::numbers::pi / 180;
 constexpr double kGap = 1.5;          // points between a point and the label beside it
 constexpr double kKeySide = 6;        // points, the edge of a legend key beside a label
 constexpr double kWidestShare = 0.2;  // share of the chart's width at which labels wrap

@@ -8,9 +8,9 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kGap = 1.5;     // points between a slice and the label beside it
-constexpr double kDust = 1e-6;   // points that rounding may add
-constexpr double kSlack = 0.01;  // points by which labels may touch
+constexpr double kSliceGap = 1.5;   // points between a slice and the label beside it
+constexpr double kRounding = 1e-6;  // points that rounding may add
+constexpr double kSlack = 0.01;     // points by which labels may touch
 
 /// Returns whether a label may be moved. It may if it is outside of its slice, at an automatic place.
 bool IsMovable(const PlacedLabel& label) {
@@ -74,7 +74,7 @@ void MoveBeside(PlacedLabel& label, const Rect& room, double lineRoom) {
   };
   // The label doesn't cover the line that goes up or down to it.
   const double edge = OnEllipse(label.point->circle, MiddleOf(*label.point)).x;
-  double near = label.halfWidth + kGap + way * (edge - middle);
+  double near = label.halfWidth + kSliceGap + way * (edge - middle);
   double far = label.halfWidth + label.point->circle.width / 2;
   if (!isClear(near)) {
     constexpr int kSteps = 20;
@@ -82,7 +82,7 @@ void MoveBeside(PlacedLabel& label, const Rect& room, double lineRoom) {
       const double between = (near + far) / 2;
       (isClear(between) ? far : near) = between;
     }
-    near = far + kGap + lineRoom;
+    near = far + kSliceGap + lineRoom;
   }
   const double least = room.left + label.halfWidth, most = room.Right() - label.halfWidth;
   label.center.x = std::max(std::min(middle + way * near, most), least);
@@ -112,7 +112,7 @@ void RemoveLabelsWithoutSpace(std::vector<PlacedLabel*>& side, double height) {
     return std::pair(a.share, a.turn) < std::pair(b.share, b.turn);
   });
   for (const Candidate& least : candidates) {
-    if (all <= height + kDust) break;
+    if (all <= height + kRounding) break;
     all -= 2 * least.label->halfHeight;
     least.label->leftOut = true;
   }

@@ -12,7 +12,7 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kPadding = 2;         // points between a text and the edges of its cell
+constexpr double kTextPadding = 2;     // points between a text and the edges of its cell
 constexpr double kKeyWidth = 18;       // points of a legend key with the gap behind it
 constexpr double kRowSpacing = 1.2;    // height of a row in line heights
 constexpr double kMostHeight = 0.5;    // share of the chart's height
@@ -57,7 +57,7 @@ double WidthOfNames(const ChartModel& chart, const std::vector<const SeriesModel
   for (const SeriesModel* one : series) {
     widest = std::max(widest, measure.Measure(one->name, chart.table->text.font).width);
   }
-  return std::min(widest + (chart.table->keys ? kKeyWidth : 0) + 2 * kPadding, most);
+  return std::min(widest + (chart.table->keys ? kKeyWidth : 0) + 2 * kTextPadding, most);
 }
 
 std::string ValueText(const ChartModel& chart, const SeriesModel& series, std::size_t point) {
@@ -78,7 +78,7 @@ TableLayout LayOutTable(const ChartModel& chart, const Rect& bounds, const Rect&
   const auto series = SeriesOf(chart);
   const double row = measure.Measure("0", style.font).Height() * kRowSpacing;
   const double width = plot.width / std::max<double>(static_cast<double>(axis.categories.size()), 1);
-  layout.isTooNarrow = width < measure.Measure("0", style.font).width + 2 * kPadding;
+  layout.isTooNarrow = width < measure.Measure("0", style.font).width + 2 * kTextPadding;
   layout.rows.push_back(plot.Bottom());
   if (layout.isTooNarrow || axis.categories.empty()) return layout;
   layout.columns.push_back(plot.left - WidthOfNames(chart, series, kMostOfNames * bounds.width, measure));
@@ -87,7 +87,7 @@ TableLayout LayOutTable(const ChartModel& chart, const Rect& bounds, const Rect&
   }
   double head = row;
   for (const std::string& category : axis.categories) {
-    head = std::max(head, CategoryBlock(category, style, width - 2 * kPadding, measure).height);
+    head = std::max(head, CategoryBlock(category, style, width - 2 * kTextPadding, measure).height);
   }
   layout.rows.push_back(plot.Bottom() + head);
   const double most = plot.Bottom() + kMostHeight * bounds.height;
@@ -116,7 +116,7 @@ class TablePainter {
     for (std::size_t i = 0; i < count; ++i) {
       const Rect cell = CellAt(0, ColumnOf(i));
       DrawBlock(canvas_, {Role::kTickLabel, axis.number, static_cast<int>(i + 1)},
-                CategoryBlock(axis.categories[i], style_, cell.width - 2 * kPadding, canvas_.Measure()),
+                CategoryBlock(axis.categories[i], style_, cell.width - 2 * kTextPadding, canvas_.Measure()),
                 cell.Center());
     }
     for (std::size_t r = 0; r + 2 < layout_.rows.size(); ++r) {
@@ -143,7 +143,7 @@ class TablePainter {
 
   void PaintText(Tag tag, const std::string& text, const Rect& cell) {
     TextBlock block = LayOut(text, style_, canvas_.Measure());
-    Shorten(block, cell.width - 2 * kPadding, canvas_.Measure());
+    Shorten(block, cell.width - 2 * kTextPadding, canvas_.Measure());
     if (!block.IsEmpty()) DrawBlock(canvas_, tag, block, cell.Center());
   }
 
@@ -151,7 +151,7 @@ class TablePainter {
     if (chart_.table->keys) {
       constexpr double kHeight = 6, kGap = 4;  // points
       DrawKey(canvas_, chart_, {Role::kLegendKey, series.number},
-              {cell.left + kPadding, cell.Center().y - kHeight / 2, kKeyWidth - kGap, kHeight});
+              {cell.left + kTextPadding, cell.Center().y - kHeight / 2, kKeyWidth - kGap, kHeight});
       cell.left += kKeyWidth;
       cell.width -= kKeyWidth;
     }

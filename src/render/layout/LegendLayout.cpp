@@ -11,7 +11,7 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kPadding = 4;          // points between the frame and its entries
+constexpr double kFramePadding = 4;     // points between the frame and its entries
 constexpr double kSquareEms = 0.55;     // edge of a key with a filling
 constexpr double kLineKeyEms = 2.0;     // length of a key with a line
 constexpr double kKeyGapEms = 0.4;      // between a key and its text
@@ -19,9 +19,9 @@ constexpr double kEntryGapEms = 0.9;    // between entries side by side
 constexpr double kRowGapEms = 0.12;     // between rows
 constexpr double kColumnGapEms = 0.35;  // on both sides of a column of entries
 constexpr double kMostShare = 0.45;     // share of the chart's width or height that a legend may take
-constexpr double kGap = 5;              // points between the legend and the plot area
+constexpr double kPlotGap = 5;          // points between the legend and the plot area
 
-constexpr double kDust = 1e-6;  // points that rounding may add
+constexpr double kRounding = 1e-6;  // points that rounding may add
 
 struct Measured {
   const LegendEntry* entry;
@@ -67,29 +67,29 @@ struct Limits {
   bool byHand = false;
 
   bool HasHeight(double bottom, bool isFirst) const {
-    return bottom <= height - kPadding + kDust || (byHand && isFirst);
+    return bottom <= height - kFramePadding + kRounding || (byHand && isFirst);
   }
 };
 
 /// Places entries below each other, in as many columns as the height requires, as long as they fit.
 void PlaceInColumns(LegendLayout& layout, const Grid& grid, std::vector<Measured>& entries,
                     const Limits& limits) {
-  const double gap = kRowGapEms * grid.em, margin = kPadding + kColumnGapEms * grid.em;
-  double left = margin, top = kPadding, widest = 0;
+  const double gap = kRowGapEms * grid.em, margin = kFramePadding + kColumnGapEms * grid.em;
+  double left = margin, top = kFramePadding, widest = 0;
   for (Measured& measured : entries) {
     const double height = std::max(measured.text.height, grid.row);
-    if (top + height > limits.height - kPadding && top > kPadding) {
+    if (top + height > limits.height - kFramePadding && top > kFramePadding) {
       left += grid.WidthOf(widest) + kEntryGapEms * grid.em;
-      top = kPadding;
+      top = kFramePadding;
       widest = 0;
     }
     const double right = left + grid.WidthOf(measured.text.width) + margin;
-    const bool isWide = right <= limits.width + kDust || (limits.byHand && left == margin);
+    const bool isWide = right <= limits.width + kRounding || (limits.byHand && left == margin);
     if (!isWide || !limits.HasHeight(top + height, layout.entries.empty())) break;
     widest = std::max(widest, measured.text.width);
     Place(layout, grid, measured, left, top, height);
     layout.box.width = std::max(layout.box.width, right);
-    layout.box.height = std::max(layout.box.height, top + height + kPadding);
+    layout.box.height = std::max(layout.box.height, top + height + kFramePadding);
     top += height + gap;
   }
 }
@@ -109,29 +109,29 @@ Columns ColumnsFor(const Grid& grid, const std::vector<Measured>& entries, doubl
     all += grid.WidthOf(measured.text.width) + gap;
   }
   if (all <= room) return {true, entries.size(), widest};
-  const double count = std::max(std::floor((room + gap + kDust) / (widest + gap)), 1.0);
+  const double count = std::max(std::floor((room + gap + kRounding) / (widest + gap)), 1.0);
   return {false, static_cast<std::size_t>(count), widest};
 }
 
 /// Places entries side by side, in as many rows as the width requires, as long as they fit.
 void PlaceInRows(LegendLayout& layout, const Grid& grid, std::vector<Measured>& entries,
                  const Limits& limits) {
-  const Columns columns = ColumnsFor(grid, entries, limits.width - 2 * kPadding);
-  double top = kPadding;
+  const Columns columns = ColumnsFor(grid, entries, limits.width - 2 * kFramePadding);
+  double top = kFramePadding;
   for (std::size_t first = 0; first < entries.size(); first += columns.count) {
     const std::size_t end = std::min(first + columns.count, entries.size());
-    double height = grid.row, left = kPadding;
+    double height = grid.row, left = kFramePadding;
     for (std::size_t i = first; i < end; ++i) height = std::max(height, entries[i].text.height);
     const bool isWide =
-        columns.oneRow || limits.byHand || columns.width <= limits.width - 2 * kPadding + kDust;
+        columns.oneRow || limits.byHand || columns.width <= limits.width - 2 * kFramePadding + kRounding;
     if (!isWide || !limits.HasHeight(top + height, first == 0)) break;
     for (std::size_t i = first; i < end; ++i) {
       const double width = grid.WidthOf(entries[i].text.width);
       Place(layout, grid, entries[i], left, top, height);
-      layout.box.width = std::max(layout.box.width, left + width + kPadding);
+      layout.box.width = std::max(layout.box.width, left + width + kFramePadding);
       left += (columns.oneRow ? width : columns.width) + kEntryGapEms * grid.em;
     }
-    layout.box.height = top + height + kPadding;
+    layout.box.height = top + height + kFramePadding;
     top += height + kRowGapEms * grid.em;
   }
 }
@@ -162,11 +162,11 @@ void Dock(const LegendModel& legend, Rect& box, Rect& free) {
   }
   if (legend.overlay) return;
   if (side == "t" || side == "b") {
-    const double taken = std::min(box.height + kGap, free.height);
+    const double taken = std::min(box.height + kPlotGap, free.height);
     free.height -= taken;
     if (side == "t") free.top += taken;
   } else {
-    const double taken = std::min(box.width + kGap, free.width);
+    const double taken = std::min(box.width + kPlotGap, free.width);
     free.width -= taken;
     if (side == "l") free.left += taken;
   }
@@ -179,8 +179,8 @@ Limits LimitsOf(const LegendModel& legend, const Rect& bounds, const Rect& free)
     ApplyLayout(*legend.layout, bounds, box);
     return {box.width, box.height, true};
   }
-  const double widest = std::min(kMostShare * bounds.width, free.width - kGap);
-  const double highest = std::min(kMostShare * bounds.height, free.height - kGap);
+  const double widest = std::min(kMostShare * bounds.width, free.width - kPlotGap);
+  const double highest = std::min(kMostShare * bounds.height, free.height - kPlotGap);
   return legend.IsFlat() ? Limits{free.width, highest} : Limits{widest, free.height};
 }
 
@@ -188,7 +188,7 @@ Limits LimitsOf(const LegendModel& legend, const Rect& bounds, const Rect& free)
 std::vector<Measured> MeasureEntries(const std::vector<const LegendEntry*>& order, const Grid& grid,
                                      const Limits& limits, const TextMeasure& measure) {
   const double wrap =
-      std::max(limits.width - 2 * kPadding - grid.WidthOf(2 * kColumnGapEms * grid.em), 3 * grid.em);
+      std::max(limits.width - 2 * kFramePadding - grid.WidthOf(2 * kColumnGapEms * grid.em), 3 * grid.em);
   std::vector<Measured> entries;
   for (const LegendEntry* entry : order) {
     TextStyle style = entry->style;

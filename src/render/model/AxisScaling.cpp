@@ -24,16 +24,16 @@ void AddGroup(const GroupModel& group, bool isX, xlsx::DataExtent& extent) {
 
 /// Corrects a scale that can't be drawn, which hostile files and extreme data can give.
 void MakeSound(AxisModel& axis) {
-  constexpr double kFarthest = 8e307;  // a limit that keeps the difference of maximum and minimum finite
-  constexpr double kMostSteps = 1e9;   // the number of steps up to which ticks are exact
+  constexpr double kLargest = 8e307;  // a limit that keeps the difference of maximum and minimum finite
+  constexpr double kMostSteps = 1e9;  // the number of steps up to which ticks are exact
   xlsx::AxisScale& scale = axis.scale;
   if (axis.logBase && !(scale.minimum > 0)) scale.minimum = scale.maximum > 1 ? 1 : scale.maximum / 10;
   if (axis.logBase && !(scale.minimum > 0)) scale = {1, *axis.logBase, *axis.logBase};
   if (!(scale.maximum > scale.minimum))
     scale.maximum = scale.minimum + std::max(std::abs(scale.minimum), 1.0);
   if (!std::isfinite(scale.maximum - scale.minimum)) {
-    scale.minimum = std::max(scale.minimum, -kFarthest);
-    scale.maximum = std::min(scale.maximum, kFarthest);
+    scale.minimum = std::max(scale.minimum, -kLargest);
+    scale.maximum = std::min(scale.maximum, kLargest);
   }
   const double length = scale.maximum - scale.minimum;
   if (!std::isfinite(length)) scale = {0, 1, 0.1};
@@ -45,7 +45,7 @@ void Rescale(AxisModel& axis, const xlsx::AxisSettings& settings) {
   MakeSound(axis);
 }
 
-void ScaleAxis(ChartModel& chart, int index) {
+void ScaleAxisAt(ChartModel& chart, int index) {
   AxisModel& axis = chart.axes[static_cast<std::size_t>(index)];
   bool headroom = true;
   for (const GroupModel& group : chart.groups) {
@@ -78,7 +78,7 @@ void ScaleAxes(ChartModel& chart) {
       const bool hasX = std::any_of(chart.groups.begin(), chart.groups.end(), [&](const GroupModel& group) {
         return group.HasXValues() && group.category == i;
       });
-      if (chart.axes[static_cast<std::size_t>(i)].IsOfValues() && hasX == ofX) ScaleAxis(chart, i);
+      if (chart.axes[static_cast<std::size_t>(i)].IsOfValues() && hasX == ofX) ScaleAxisAt(chart, i);
     }
   }
 }

@@ -50,7 +50,7 @@ constexpr std::array<Kind, 16> kKinds = {{{"areaChart", Family::kArea},
                                           {"surface3DChart", Family::kSurface}}};
 
 /// Returns the kind of an element that is a plot group.
-const Kind& KindOf(pugi::xml_node group) {
+const Kind& GroupKindOf(pugi::xml_node group) {
   return *std::find_if(kKinds.begin(), kKinds.end(),
                        [&](const Kind& kind) { return xml::Is(group, kind.element); });
 }
@@ -282,7 +282,7 @@ SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::x
 /// Reads what a group says of itself, without its series and categories.
 void ReadSettings(ReadingContext& context, GroupModel& group) {
   const pugi::xml_node node = group.node;
-  const Kind& kind = KindOf(node);
+  const Kind& kind = GroupKindOf(node);
   group.family = kind.family;
   group.is3D = kind.Is3D();
   group.grouping = GroupingOf(node, kind.family);

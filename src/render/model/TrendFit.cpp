@@ -192,9 +192,9 @@ std::string EquationNumber(double number) {
 namespace {
 
 /// Terms of a sum, each with its sign. A term whose factor is zero is left out.
-class Sum {
+class SumText {
  public:
-  explicit Sum(const std::function<std::string(double)>& format) : format_(format) {}
+  explicit SumText(const std::function<std::string(double)>& format) : format_(format) {}
 
   void Add(double factor, const std::string& behind) {
     if (factor == 0) return;
@@ -219,7 +219,7 @@ class Sum {
 std::string EquationOf(const TrendCurve& curve, const std::function<std::string(double)>& format) {
   constexpr std::array<const char*, 7> kPowers = {"", "x", "x²", "x³", "x⁴", "x⁵", "x⁶"};
   const std::vector<double> factors = curve.Factors();
-  Sum sum(format);
+  SumText sum(format);
   switch (curve.Kind()) {
     case TrendKind::kExponential:
       return "y = " + format(std::exp(factors[0])) + "e^" + format(factors[1]) + "x";

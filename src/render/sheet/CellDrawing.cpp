@@ -20,7 +20,7 @@ using Kind = excel::CellValue::Kind;
 
 constexpr double kPointsPerPixel = 0.75;  // at 96 dpi
 /// The distance between the edge of a cell and its text, in points.
-constexpr double kPadding = 1.5;
+constexpr double kCellPadding = 1.5;
 constexpr int kBlanksPerIndent = 3;
 constexpr double kGridLineWidth = 0.35;
 constexpr Color kBlack{0, 0, 0, 1};
@@ -46,23 +46,23 @@ std::vector<CellRange> OnPage(const std::vector<CellRange>& ranges, const CellRa
 
 Path RectPath(const Rect& rect) { return Path().AddRect(rect); }
 
-enum class Side { kLeft, kMiddle, kRight };
+enum class TextSide { kLeft, kMiddle, kRight };
 
-Side SideOf(const PrintedCell& cell, const CellLook& look) {
+TextSide SideOf(const PrintedCell& cell, const CellLook& look) {
   switch (look.horizontal) {
     case HorizontalAlignment::kLeft:
     case HorizontalAlignment::kFill:
-      return Side::kLeft;
+      return TextSide::kLeft;
     case HorizontalAlignment::kRight:
-      return Side::kRight;
+      return TextSide::kRight;
     case HorizontalAlignment::kCenter:
     case HorizontalAlignment::kCenterAcross:
-      return Side::kMiddle;
+      return TextSide::kMiddle;
     case HorizontalAlignment::kGeneral:
       break;
   }
-  if (cell.IsNumber()) return Side::kRight;
-  return cell.kind == Kind::kBoolean || cell.kind == Kind::kError ? Side::kMiddle : Side::kLeft;
+  if (cell.IsNumber()) return TextSide::kRight;
+  return cell.kind == Kind::kBoolean || cell.kind == Kind::kError ? TextSide::kMiddle : TextSide::kLeft;
 }
 
 Font FontOf(const CellLook& look) { return {look.font, look.size, look.bold, look.italic, look.underline}; }
@@ -77,7 +77,7 @@ double RoomFor(const PrintedCell& cell, const CellLook& look, const TextMeasure&
   const Font font = FontOf(look);
   const double indent =
       look.indent == 0 ? 0 : look.indent * kBlanksPerIndent * measure.Measure(" ", font).width;
-  return measure.Measure(cell.text, font).width + indent + 2 * kPadding;
+  return measure.Measure(cell.text, font).width + indent + 2 * kCellPadding;
 }
 
 /// Draws the cells of a page.
@@ -197,17 +197,17 @@ class CellDrawing {
       return;
     }
     const double missing = RoomFor(cell, look, canvas_.Measure()) - own.width;
-    const Side side = SideOf(cell, look);
-    const double half = side == Side::kMiddle ? missing / 2 : missing;
+    const TextSide side = SideOf(cell, look);
+    const double half = side == TextSide::kMiddle ? missing / 2 : missing;
     Rect seen = own;
-    if (side != Side::kRight) SpreadRight(row, column, half, seen);
-    if (side != Side::kLeft) SpreadLeft(row, column, half, seen);
+    if (side != TextSide::kRight) SpreadRight(row, column, half, seen);
+    if (side != TextSide::kLeft) SpreadLeft(row, column, half, seen);
     const Rect page = sheet_.AreaOf(page_);
     if (!onPage && (seen.Right() <= page.left || seen.left >= page.Right())) return;
     // A centred text is in the middle of its own cell, not of all cells that it covers.
     Rect area = own;
-    if (missing > 0 && side != Side::kRight) area.width += half;
-    if (missing > 0 && side != Side::kLeft) {
+    if (missing > 0 && side != TextSide::kRight) area.width += half;
+    if (missing > 0 && side != TextSide::kLeft) {
       area.left -= half;
       area.width += half;
     }
@@ -246,11 +246,11 @@ class CellDrawing {
   /// Draws the text of a cell in `area`, clipped to `seen`.
   void DrawIn(const PrintedCell& cell, const Rect& area, const Rect& seen) {
     const CellLook& look = sheet_.LookOf(cell.style);
-    const Side side = SideOf(cell, look);
+    const TextSide side = SideOf(cell, look);
     const double indent = IndentOf(look);
-    Rect inside = Inset(area, kPadding, 0);
-    if (side == Side::kLeft) inside.left += indent;
-    inside.width -= side == Side::kMiddle ? 0 : indent;
+    Rect inside = Inset(area, kCellPadding, 0);
+    if (side == TextSide::kLeft) inside.left += indent;
+    inside.width -= side == TextSide::kMiddle ? 0 : indent;
     const std::vector<std::string> lines = LinesOf(cell, look, inside.width);
     const TextExtent extent = canvas_.Measure().Measure("", FontOf(look));
     const double height = extent.Height() * static_cast<double>(lines.size());
@@ -280,26 +280,28 @@ class CellDrawing {
     return inside.left < seen.left || inside.Right() > seen.Right();
   }
 
-  void DrawLine(const std::string& line, const CellLook& look, Side side, const Rect& inside,
+  void DrawLine(const std::string& line, const CellLook& look, TextSide side, const Rect& inside,
                 double baseline) {
     TextItem text;
     text.text = line;
     text.font = FontOf(look);
     text.color = look.textColor ? FromExcel(*look.textColor) : kBlack;
-    text.align = side == Side::kLeft     ? TextAlign::kStart
-                 : side == Side::kMiddle ? TextAlign::kMiddle
-                                         : TextAlign::kEnd;
-    const double x = side == Side::kLeft     ? inside.left
-                     : side == Side::kMiddle ? inside.Center().x
-                                             : inside.Right();
+    text.align = side == TextSide::kLeft     ? TextAlign::kStart
+                 : side == TextSide::kMiddle ? TextAlign::kMiddle
+                                             : TextAlign::kEnd;
+    const double x = side == TextSide::kLeft     ? inside.left
+                     : side == TextSide::kMiddle ? inside.Center().x
+                                                 : inside.Right();
     text.anchor = {x, baseline};
     if (look.strike) DrawStrike(line, text, side);
     canvas_.AddText(kTextTag, std::move(text));
   }
 
-  void DrawStrike(const std::string& line, const TextItem& text, Side side) {
+  void DrawStrike(const std::string& line, const TextItem& text, TextSide side) {
     const double width = WidthOfText(line, text.font);
-    const double left = text.anchor.x - (side == Side::kLeft ? 0 : side == Side::kMiddle ? width / 2 : width);
+    const double left = text.anchor.x - (side == TextSide::kLeft     ? 0
+                                         : side == TextSide::kMiddle ? width / 2
+                                                                     : width);
     const double y = text.anchor.y - kStrikeHeight * text.font.size;
     canvas_.AddLine(kTextTag, {left, y}, {left + width, y},
                     {text.color, kStrikeWidth * text.font.size, {}, {}, {}});
@@ -318,12 +320,12 @@ std::int32_t LastColumnOfText(SheetReader& sheet, std::int32_t row, std::int32_t
                               const TextMeasure& measure) {
   const PrintedCell cell = sheet.CellAt(row, column);
   const CellLook& look = sheet.LookOf(cell.style);
-  if (!MaySpread(cell, look) || SideOf(cell, look) == Side::kRight) return column;
+  if (!MaySpread(cell, look) || SideOf(cell, look) == TextSide::kRight) return column;
   const double width = sheet.Geometry().columns.SizeOf(column - 1);
   const double missing = RoomFor(cell, look, measure) - width;
   if (missing <= 0) return column;
-  const double end =
-      sheet.Geometry().columns.EdgeOf(column) + (SideOf(cell, look) == Side::kMiddle ? missing / 2 : missing);
+  const double end = sheet.Geometry().columns.EdgeOf(column) +
+                     (SideOf(cell, look) == TextSide::kMiddle ? missing / 2 : missing);
   return sheet.Geometry().columns.IndexAt(end).first + 1;
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <utility>
 
 #include "runtime/Strings.h"
@@ -10,7 +9,6 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kRadian = std::numbers::pi / 180;
 constexpr std::size_t kMostLines = 200;  // More lines don't fit on any chart.
 
 /// A part of a run up to the next place where a line may break. It contains the blanks that follow the word.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <vector>
 
 #include "render/fills/LitFill.h"
@@ -15,7 +14,6 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kRadian = std::numbers::pi / 180;
 constexpr double kThickness = 0.12;               // share of the diameter, at a height of 100 percent
 constexpr double kFlattest = 10, kSteepest = 90;  // Excel's limits for the elevation of pies, in degrees
 constexpr double kRimLight = 0.75, kEdgeLight = 0.55, kCutLight = 0.65;

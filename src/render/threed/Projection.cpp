@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <numeric>
 
 namespace plotsmith::render {
@@ -18,7 +17,6 @@ double Diagonal(const Box& box) { return std::hypot(box.width, box.height, box.d
 
 Projection::Projection(const View& view, const BoxShape& shape, const Rect& room)
     : oblique_(view.rightAngles) {
-  constexpr double kRadian = std::numbers::pi / 180;
   sinRotation_ = std::sin(view.rotation * kRadian);
   cosRotation_ = std::cos(view.rotation * kRadian);
   sinElevation_ = std::sin(view.elevation * kRadian);

@@ -79,7 +79,7 @@ constexpr std::string_view kLabels[] = {"idx",
                                         "extLst"};
 constexpr std::string_view kLegendEntry[] = {"idx", "delete|txPr", "extLst"};
 constexpr std::string_view kMarker[] = {"symbol", "size", "spPr", "extLst"};
-constexpr std::string_view kDisplayUnits[] = {"builtInUnit|custUnit", "dispUnitsLbl", "extLst"};
+constexpr std::string_view kDisplayUnitOrder[] = {"builtInUnit|custUnit", "dispUnitsLbl", "extLst"};
 constexpr std::string_view kView3D[] = {"rotX",   "hPercent",    "rotY",  "depthPercent",
                                         "rAngAx", "perspective", "extLst"};
 constexpr std::string_view kSurface[] = {"thickness", "spPr", "pictureOptions", "extLst"};
@@ -124,7 +124,7 @@ constexpr Type kTypes[] = {
     {"legend", kLegend, false},
     {"legendEntry", kLegendEntry, false},
     {"marker", kMarker, false},
-    {"dispUnits", kDisplayUnits, false},
+    {"dispUnits", kDisplayUnitOrder, false},
     {"layout", kLayout, false},
     {"manualLayout", kManualLayout, false},
     {"dLbls|dLbl", kLabels, false},
@@ -148,7 +148,7 @@ constexpr Type kTypes[] = {
     {"solidFill|fgClr|bgClr", {}, true},
 };
 
-bool Names(std::string_view alternatives, std::string_view name) {
+bool HasName(std::string_view alternatives, std::string_view name) {
   while (!alternatives.empty()) {
     const std::string_view first = alternatives.substr(0, alternatives.find('|'));
     if (first == name) return true;
@@ -160,7 +160,7 @@ bool Names(std::string_view alternatives, std::string_view name) {
 const Type* TypeOf(pugi::xml_node node) {
   const std::string_view name = xml::LocalName(node);
   for (const Type& type : kTypes) {
-    if (Names(type.elements, name)) return &type;
+    if (HasName(type.elements, name)) return &type;
   }
   return nullptr;
 }
@@ -168,7 +168,7 @@ const Type* TypeOf(pugi::xml_node node) {
 std::size_t Rank(const Type* type, std::string_view name) {
   if (type != nullptr) {
     for (std::size_t i = 0; i < type->order.size(); ++i) {
-      if (Names(type->order[i], name)) return i;
+      if (HasName(type->order[i], name)) return i;
     }
   }
   return std::string_view::npos;
@@ -281,10 +281,10 @@ pugi::xml_node EnsureNumbered(pugi::xml_node parent, std::string_view local, lon
   return child;
 }
 
-bool IsGroup(pugi::xml_node node) { return Names(kGroups, xml::LocalName(node)); }
+bool IsGroup(pugi::xml_node node) { return HasName(kGroups, xml::LocalName(node)); }
 
-bool IsAxis(pugi::xml_node node) { return Names(kAxes, xml::LocalName(node)); }
+bool IsAxis(pugi::xml_node node) { return HasName(kAxes, xml::LocalName(node)); }
 
-bool IsFill(pugi::xml_node node) { return Names(kFills, xml::LocalName(node)); }
+bool IsFill(pugi::xml_node node) { return HasName(kFills, xml::LocalName(node)); }
 
 }  // namespace plotsmith::xlsx::schema

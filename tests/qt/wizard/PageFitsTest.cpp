@@ -58,33 +58,35 @@ S UnseenFocus(qt::FormWindow& page) {
   return names;
 }
 
+/// The sizes of fonts, in points, and the directions of writing that pages are shown with.
+constexpr std::pair<int, Qt::LayoutDirection> kLooks[] = {
+    {8, Qt::LeftToRight}, {10, Qt::LeftToRight}, {10, Qt::RightToLeft}, {12, Qt::LeftToRight}};
+
 TEST_F(PageFitsTest, NothingIsCutOff) {
   for (const test::Way& way : test::kWays) {
-    for (const int points : {8, 10, 12}) {
-      for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
-        SCOPED_TRACE(way.page + " at " + std::to_string(points) +
-                     (direction == Qt::RightToLeft ? " from the right" : ""));
-        QFont font = font_;
-        font.setPointSize(points);
-        QApplication::setFont(font);
-        QApplication::setLayoutDirection(direction);
-        const auto run = Run(way.lines + "do wait; do look",
-                             {{"look", [] {
-                                 qt::FormWindow& page = *test::FrontPage();
-                                 const QSize room = page.screen()->availableGeometry().size();
-                                 EXPECT_EQ(page.size().boundedTo(room), page.size());
-                                 EXPECT_EQ(CutWidgets(page), "");
-                                 if (!page.isRightToLeft()) {
-                                   EXPECT_EQ(UnseenFocus(page), "");
-                                 }
-                                 const auto* const scroll = page.findChild<QScrollArea*>();
-                                 const bool isScrolled = scroll->verticalScrollBar()->maximum() > 0 ||
-                                                         scroll->horizontalScrollBar()->maximum() > 0;
-                                 std::cout << page.Model().Name() << " " << page.width() << " x "
-                                           << page.height() << (isScrolled ? " scrolled" : "") << "\n";
-                               }}});
-        EXPECT_EQ(run.failure, "");
-      }
+    for (const auto& [points, direction] : kLooks) {
+      SCOPED_TRACE(way.page + " at " + std::to_string(points) +
+                   (direction == Qt::RightToLeft ? " from the right" : ""));
+      QFont font = font_;
+      font.setPointSize(points);
+      QApplication::setFont(font);
+      QApplication::setLayoutDirection(direction);
+      const auto run = Run(way.lines + "do wait; do look",
+                           {{"look", [] {
+                               qt::FormWindow& page = *test::FrontPage();
+                               const QSize room = page.screen()->availableGeometry().size();
+                               EXPECT_EQ(page.size().boundedTo(room), page.size());
+                               EXPECT_EQ(CutWidgets(page), "");
+                               if (!page.isRightToLeft()) {
+                                 EXPECT_EQ(UnseenFocus(page), "");
+                               }
+                               const auto* const scroll = page.findChild<QScrollArea*>();
+                               const bool isScrolled = scroll->verticalScrollBar()->maximum() > 0 ||
+                                                       scroll->horizontalScrollBar()->maximum() > 0;
+                               std::cout << page.Model().Name() << " " << page.width() << " x "
+                                         << page.height() << (isScrolled ? " scrolled" : "") << "\n";
+                             }}});
+      EXPECT_EQ(run.failure, "");
     }
   }
 }
@@ -95,7 +97,7 @@ TEST(ScreensTest, PagesFitASmallScreenAtEachScale) {
   screen.write(R"({"screens": [{"name": "one", "x": 0, "y": 0, "width": 1366, "height": 768,
                    "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
   screen.flush();
-  for (const char* scale : {"1", "1.5", "2"}) {
+  for (const char* scale : {"1.5", "2"}) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName());

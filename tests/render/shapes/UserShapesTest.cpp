@@ -16,7 +16,7 @@ using render::Item;
 using render::Rect;
 using render::Role;
 
-constexpr double kWidth = 400, kHeight = 200;  // The size of the chart in points.
+constexpr double kChartWidth = 400, kChartHeight = 200;  // The size of the chart in points.
 
 std::string Anchor(const std::string& object, const std::string& x2 = "0.75", const std::string& y2 = "0.5") {
   return "<cdr:relSizeAnchor><cdr:from><cdr:x>0.25</cdr:x><cdr:y>0.25</cdr:y></cdr:from><cdr:to><cdr:x>" +
@@ -24,8 +24,8 @@ std::string Anchor(const std::string& object, const std::string& x2 = "0.75", co
 }
 
 /// Returns a shape with its own position in points, which is used inside a group.
-std::string Shape(const std::string& form, const std::string& inside = "", const Rect& place = {},
-                  const std::string& turn = "", const std::string& text = "") {
+std::string ShapeXml(const std::string& form, const std::string& inside = "", const Rect& place = {},
+                     const std::string& turn = "", const std::string& text = "") {
   const auto emu = [](double points) { return std::to_string(std::lround(points * 12700)); };
   return "<cdr:sp><cdr:nvSpPr><cdr:cNvPr id=\"2\" "
          "name=\"Sign\"/><cdr:cNvSpPr/></cdr:nvSpPr><cdr:spPr><a:xfrm" +
@@ -50,7 +50,7 @@ class UserShapesTest : public Chart3DTest {
               "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\">" +
                   anchors + "</c:userShapes>");
     notes_.clear();
-    return DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kWidth, kHeight, fonts_, notes_);
+    return DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kChartWidth, kChartHeight, fonts_, notes_);
   }
   /// Returns the bounds of the first item of a role.
   static Rect BoundsOfFirst(const Drawing& drawing, Role role) {
@@ -88,7 +88,7 @@ TEST_F(UserShapesTest, GroupsPlaceStretchAndTurnTheirMembers) {
         Case{" rot=\"5400000\"", "", {210, -5, 10, 40}}, Case{"", " rot=\"5400000\"", {135, 40, 10, 40}},
         Case{" rot=\"5400000\"", " rot=\"-5400000\"", {195, 10, 40, 10}}}) {
     const Drawing drawing =
-        DrawWith(group(c.turn, Shape("rect", "<a:grpFill/>", {20, 10, 20, 20}, c.memberTurn)));
+        DrawWith(group(c.turn, ShapeXml("rect", "<a:grpFill/>", {20, 10, 20, 20}, c.memberTurn)));
     ExpectNear(BoundsOfFirst(drawing, Role::kShape), c.expected, std::string(c.turn) + "/" + c.memberTurn);
     EXPECT_EQ(FillOf(*ItemsOf(drawing, Role::kShape)[0]), (render::Color{0, 255, 0, 1}));
   }
@@ -99,7 +99,7 @@ TEST_F(UserShapesTest, ADrawingThatCantBeReadIsNoted) {
                          "<c:userShapes r:id=\"rId7\" "
                          "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"/>"),
             "<c:userShapes");
-  DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kWidth, kHeight, fonts_, notes_);
+  DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kChartWidth, kChartHeight, fonts_, notes_);
   ASSERT_EQ(notes_.size(), 1);
   EXPECT_EQ(notes_[0].rfind("The chart's shapes can't be read", 0), 0) << notes_[0];
 }
@@ -138,7 +138,7 @@ TEST_F(UserShapesTest, PicturesFillTheirFrameAsFarAsTheyAreNotCropped) {
     package.AddRelationship("/xl/drawings/drawing2.xml", "image", "/xl/media/image1.png");  // rId1
     notes_.clear();
     const Drawing drawing =
-        DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kWidth, kHeight, fonts_, notes_);
+        DrawChart(*Book().Chart("/xl/charts/chart1.xml"), kChartWidth, kChartHeight, fonts_, notes_);
     const auto pictures = ItemsOf(drawing, Role::kShape);
     if (c.place.width == 0) {
       EXPECT_TRUE(pictures.empty());
@@ -171,7 +171,7 @@ TEST_F(UserShapesTest, ShapesThrowShadowsAndSayOtherEffects) {
   const std::string effects =
       "<a:effectLst><a:glow/><a:outerShdw dist=\"127000\" dir=\"5400000\"><a:srgbClr val=\"445566\"/>"
       "</a:outerShdw></a:effectLst>";
-  const Drawing drawing = DrawWith(Anchor(Shape("ellipse", Solid("FF0000") + effects)));
+  const Drawing drawing = DrawWith(Anchor(ShapeXml("ellipse", Solid("FF0000") + effects)));
   const auto shadows = ItemsOf(drawing, Role::kShadow), shapes = ItemsOf(drawing, Role::kShape);
   ASSERT_EQ(shadows.size(), 1u);
   ASSERT_EQ(shapes.size(), 1u);

@@ -9,7 +9,7 @@ namespace {
 constexpr int kSeries = 3;
 constexpr const char* kColors[] = {"4F81BD", "C0504D", "9BBB59"};
 
-std::string SeriesXml(int number, const std::vector<double>& values) {
+std::string ValuesXml(int number, const std::vector<double>& values) {
   std::string points, texts;
   for (std::size_t i = 0; i < values.size(); ++i) {
     const std::string start = "<c:pt idx=\"" + std::to_string(i) + "\"><c:v>";
@@ -41,7 +41,7 @@ std::string Chart3DTest::Part(const Setup& setup) {
   std::string group = "<c:" + setup.group + ">";
   if (bars) group += "<c:barDir val=\"" + setup.direction + "\"/>";
   if (!pie) group += "<c:grouping val=\"" + setup.grouping + "\"/>";
-  for (int i = 1; i <= (pie ? 1 : kSeries); ++i) group += SeriesXml(i, setup.values);
+  for (int i = 1; i <= (pie ? 1 : kSeries); ++i) group += ValuesXml(i, setup.values);
   group += setup.behind;
   if (!pie) group += "<c:axId val=\"1\"/><c:axId val=\"2\"/><c:axId val=\"3\"/>";
   group += "</c:" + setup.group + ">";

@@ -13,7 +13,7 @@ namespace {
 using S = std::string;
 using Texts = std::vector<S>;
 
-const S kWorkbook = "/xl/workbook.xml";
+const S kBookPart = "/xl/workbook.xml";
 
 class BookTest : public test::HostTest {
  protected:
@@ -22,14 +22,14 @@ class BookTest : public test::HostTest {
     test::PlainBook book;
     book.sheets = {{"One", {{1.0}, {2.0}}}, {"Two"}};
     book.Write(folder_ / "book.xlsx");
-    test::EditPart(folder_ / "book.xlsx", kWorkbook,
+    test::EditPart(folder_ / "book.xlsx", kBookPart,
                    [&](S& xml) { xml.insert(xml.find("</workbook>"), behindSheets); });
     OpenFile(folder_ / "book.xlsx");
   }
   /// Saves, and returns the XML of the workbook part after the list of sheets.
   S SavedBehindSheets() {
     SaveAndReopen();
-    const S xml = SavedPart(kWorkbook), end = "</sheets>";
+    const S xml = SavedPart(kBookPart), end = "</sheets>";
     return test::Between(xml.substr(xml.find(end) + end.size()), "", "</workbook>");
   }
   Texts Names() {
@@ -111,12 +111,12 @@ TEST_F(BookTest, WhatIsNoWorkbookIsRefused) {
   } const kCases[] = {
       {"/_rels/.rels", "/officeDocument\"", "/other\"", "it is not a workbook: it has no main part"},
       {"/_rels/.rels", "xl/workbook.xml", "xl/none.xml", "it is not a workbook: it has no main part"},
-      {kWorkbook, "workbook", "document", "it is not a workbook"},
+      {kBookPart, "workbook", "document", "it is not a workbook"},
       {"/[Content_Types].xml", "application/vnd.openxmlformats-officedocument.spreadsheetml.sheet.main+xml",
        "application/vnd.ms-excel.sheet.binary.macroEnabled.main",
        "it is a binary workbook (.xlsb); save it as .xlsx first, because only .xlsx, .xlsm, .xltx and .xltm "
        "can be read"},
-      {kWorkbook, "<sheets>", "<sheets", "its part /xl/workbook.xml can't be read: its XML is damaged"},
+      {kBookPart, "<sheets>", "<sheets", "its part /xl/workbook.xml can't be read: its XML is damaged"},
   };
   for (const auto& test : kCases) {
     test::PlainBook book;
@@ -139,7 +139,7 @@ TEST_F(BookTest, AChangedChartGetsATheme) {
   const auto themes = [&](const char* file) {
     S text;
     const Package package = Package::Open(folder_ / file);
-    for (const auto& link : package.Relationships(kWorkbook)) {
+    for (const auto& link : package.Relationships(kBookPart)) {
       if (link.type == "theme") text += link.target + " " + package.ContentType(link.target);
     }
     return text;

@@ -5,6 +5,7 @@
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
 #include "tests/support/Paths.h"
+#include "tests/support/Patterns.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Package.h"
 

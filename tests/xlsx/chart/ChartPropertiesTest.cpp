@@ -4,6 +4,7 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
+#include "tests/support/Patterns.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith::xlsx {

@@ -1,9 +1,11 @@
+#include <cmath>
 #include <functional>
 #include <map>
 #include <pugixml.hpp>
 
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
+#include "tests/support/Patterns.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/base/Limits.h"

@@ -2,6 +2,7 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
+#include "tests/support/Patterns.h"
 #include "xlsx/base/Limits.h"
 #include "xlsx/chart/rules/ChartTypes.h"
 

@@ -11,7 +11,7 @@ namespace {
 
 using S = std::string;
 
-S Text(const SheetView& view) {
+S ViewText(const SheetView& view) {
   const auto cell = [](const CellPlace& place) {
     return " " + std::to_string(place.row) + "," + std::to_string(place.column);
   };
@@ -58,14 +58,14 @@ TEST(SheetViewTest, ReadsTheViewOfTheFirstWindow) {
     const S part =
         "<worksheet>" + S(c.views) + "<sheetData><selection activeCell=\"Z9\"/></sheetData></worksheet>";
     MemoryStream stream(part);
-    EXPECT_EQ(Text(ReadSheetView(stream)), Text(c.view)) << c.views;
+    EXPECT_EQ(ViewText(ReadSheetView(stream)), ViewText(c.view)) << c.views;
   }
 }
 
 TEST(SheetViewTest, TheCellsAreNotRead) {
   const S part = "<worksheet><sheetData><row";
   MemoryStream stream(part);
-  EXPECT_EQ(Text(ReadSheetView(stream)), Text({}));
+  EXPECT_EQ(ViewText(ReadSheetView(stream)), ViewText({}));
 }
 
 class LookedAtTest : public test::HostTest {};

@@ -13,7 +13,7 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr long long kColorfulStyle = 2;
-constexpr long long kStyles = 48, kStyleColumns = 8;
+constexpr long long kStyleCount = 48, kStyleColumns = 8;
 constexpr long long kNewerStyles = 100;  // c14:style counts from here
 constexpr std::size_t kAccents = 6;
 
@@ -47,7 +47,7 @@ std::int32_t Varied(ChartPart& part, const std::string& color, const Variation& 
 }
 
 /// Mixes a theme colour with white. `left` is the share of the colour, in thousandths of a percent.
-std::int32_t Tinted(ChartPart& part, const std::string& color, int left) {
+std::int32_t TintedColor(ChartPart& part, const std::string& color, int left) {
   pugi::xml_document holder;
   pugi::xml_node scheme = holder.append_child("solidFill").append_child("schemeClr");
   scheme.append_attribute("val").set_value(color.c_str());
@@ -72,7 +72,7 @@ long long ChartStyleOf(ChartPart& part) {
        {space, xml::Child(alternatives, "Choice"), xml::Child(alternatives, "Fallback")}) {
     const auto value = schema::IntegerVal(holder, "style", 0);
     const long long style = value > kNewerStyles ? value - kNewerStyles : value;
-    if (style >= 1 && style <= kStyles) return style;
+    if (style >= 1 && style <= kStyleCount) return style;
   }
   return kColorfulStyle;
 }
@@ -91,9 +91,10 @@ std::int32_t AutomaticPlotArea(ChartPart& part) {
   constexpr long long kFirstGrey = 33, kFirstAccent = 35;
   constexpr int kPale = 20000, kDark = 95000;
   const long long style = ChartStyleOf(part);
-  if (HasDarkArea(part)) return Tinted(part, "tx1", kDark);
-  if (style >= kFirstAccent) return Tinted(part, "accent" + std::to_string(style - kFirstAccent + 1), kPale);
-  if (style >= kFirstGrey) return Tinted(part, "tx1", kPale);
+  if (HasDarkArea(part)) return TintedColor(part, "tx1", kDark);
+  if (style >= kFirstAccent)
+    return TintedColor(part, "accent" + std::to_string(style - kFirstAccent + 1), kPale);
+  if (style >= kFirstGrey) return TintedColor(part, "tx1", kPale);
   return part.Theme().SchemeColor("bg1").value_or(0xFFFFFF);
 }
 
