@@ -1,10 +1,13 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <stdexcept>
 #include <string>
 
 #include "cli/Streams.h"
+
+namespace CLI {
+class App;
+}
 
 namespace plotsmith::cli {
 

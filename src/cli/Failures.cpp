@@ -1,5 +1,6 @@
 #include "cli/Failures.h"
 
+#include <CLI/CLI.hpp>
 #include <exception>
 #include <string>
 

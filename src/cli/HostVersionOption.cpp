@@ -1,5 +1,6 @@
 #include "cli/HostVersionOption.h"
 
+#include <CLI/CLI.hpp>
 #include <string>
 
 #include "runtime/Variant.h"

@@ -4,7 +4,7 @@
 
 #include "cli/Platform.h"
 #include "cli/TerminalText.h"
-#include "cli/line/CommandLine.h"
+#include "cli/line/RunCommandLine.h"
 
 int main(int argc, char** argv) {
   using namespace plotsmith::cli;

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "cli/Session.h"
-#include "cli/line/CommandLine.h"
+#include "cli/line/RunCommandLine.h"
 #include "runtime/Strings.h"
 #include "tests/support/Files.h"
 #include "tests/support/HostTest.h"

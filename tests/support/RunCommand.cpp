@@ -3,7 +3,7 @@
 #include <sstream>
 #include <utility>
 
-#include "cli/line/CommandLine.h"
+#include "cli/line/RunCommandLine.h"
 
 namespace plotsmith::test {
 

@@ -1,5 +1,6 @@
 #include "cli/commands/Cells.h"
 
+#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <nlohmann/json.hpp>
 #include <ostream>

@@ -1,5 +1,6 @@
 #include "cli/commands/Charts.h"
 
+#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>

@@ -1,5 +1,6 @@
 #include "cli/commands/Check.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <nlohmann/json.hpp>
 

@@ -1,5 +1,7 @@
 #include "cli/commands/Definition.h"
 
+#include <CLI/CLI.hpp>
+
 #include "cli/ChartLookup.h"
 #include "cli/Session.h"
 #include "common/RunVariables.h"

@@ -1,5 +1,6 @@
 #include "cli/commands/Format.h"
 
+#include <CLI/CLI.hpp>
 #include <istream>
 #include <optional>
 

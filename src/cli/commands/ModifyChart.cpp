@@ -1,5 +1,7 @@
 #include "cli/commands/ModifyChart.h"
 
+#include <CLI/CLI.hpp>
+
 #include "cli/wizard/ChartScript.h"
 
 namespace plotsmith::cli {

@@ -1,5 +1,6 @@
 #include "cli/commands/Refresh.h"
 
+#include <CLI/CLI.hpp>
 #include <map>
 
 #include "cli/Session.h"

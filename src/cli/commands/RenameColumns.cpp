@@ -1,5 +1,6 @@
 #include "cli/commands/RenameColumns.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <set>
 

@@ -1,5 +1,7 @@
 #include "cli/commands/Render.h"
 
+#include <CLI/CLI.hpp>
+
 #include "cli/Session.h"
 #include "cli/check/Words.h"
 #include "cli/render/ChartsToDraw.h"

@@ -1,5 +1,7 @@
 #include "cli/commands/Save.h"
 
+#include <CLI/CLI.hpp>
+
 #include "cli/Session.h"
 
 namespace plotsmith::cli {

@@ -1,5 +1,6 @@
 #include "cli/commands/Tables.h"
 
+#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 #include "cli/Session.h"

@@ -1,5 +1,6 @@
 #include "cli/commands/Wizard.h"
 
+#include <CLI/CLI.hpp>
 #include <fstream>
 #include <utility>
 #include <vector>

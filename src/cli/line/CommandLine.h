@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "cli/Command.h"
-#include "cli/Streams.h"
 
 namespace plotsmith::cli {
 
@@ -22,9 +21,5 @@ struct CommandLine {
 
 /// Returns a sentence that says that no verb has the name.
 std::string NoSuchVerb(const std::string& name);
-
-/// Executes the command. `arguments` don't include the program's name. Returns an exit code and throws
-/// nothing.
-int RunCommandLine(std::vector<std::string> arguments, const Streams& streams);
 
 }  // namespace plotsmith::cli

@@ -1,5 +1,6 @@
 #include "cli/render/PictureOptions.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <filesystem>

@@ -1,11 +1,14 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <cstddef>
 #include <optional>
 #include <string>
 
 #include "cli/Streams.h"
+
+namespace CLI {
+class App;
+}
 
 namespace plotsmith::cli {
 

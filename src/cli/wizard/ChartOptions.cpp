@@ -1,5 +1,6 @@
 #include "cli/wizard/ChartOptions.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "cli/Command.h"

@@ -1,5 +1,7 @@
 #include "cli/wizard/PlayVerb.h"
 
+#include <CLI/CLI.hpp>
+
 #include "cli/wizard/WizardRun.h"
 
 namespace plotsmith::cli {
