@@ -1,5 +1,6 @@
 #!/bin/sh
-# Runs all tests of the release build twice: in a locale with a decimal comma and in the default locale.
+# Runs the tests of the release build twice: in a locale with a decimal comma and in the default locale. LibreOffice opens
+# workbooks only in the second run, because the first one writes the same.
 set -eu
 cd "$(dirname "$0")/.."
 scripts/install-dependencies.sh locales
@@ -14,7 +15,14 @@ if [ -x build/tests/qt/plotsmith_qt_tests ]; then
 else
   echo "The tests of the wizard's windows are left out, because Qt 6 Widgets isn't installed."
 fi
+run() {
+  # shellcheck disable=SC2086  # a list of words
+  scripts/run-tests.sh $programs
+}
 echo "With a decimal comma:"
-# shellcheck disable=SC2086  # a list of words
-LOCPATH=$locales LC_ALL=de_DE.UTF-8 scripts/run-tests.sh $programs
-ctest --preset release -j "$(nproc)"
+(
+  export GTEST_FILTER="-*LibreOffice*" LOCPATH="$locales" LC_ALL=de_DE.UTF-8
+  run
+)
+echo "With a decimal point:"
+run

@@ -1,36 +1,43 @@
 #!/bin/sh
-# Runs test programs, each split into one part per processor, and prints how many tests passed. One process per test, as
-# ctest starts them, takes longer than most tests, above all under the sanitizers. A part that has not ended within half an
-# hour is stopped.
+# Runs test programs. Prints why tests were skipped, and how many passed. Each program is split into parts, of which as
+# many run at a time as there are processors. One process per test, as ctest starts them, takes longer than most tests,
+# above all under the sanitizers. A part that has not ended within half an hour is stopped.
 # Usage: scripts/run-tests.sh PROGRAM...
 set -eu
-parts=$(nproc)
+processors=$(nproc)
+parts=$((processors * 3))
 logs=$(mktemp -d)
 trap 'rm -rf "$logs"' EXIT
-passed=0
-failed=0
+
+# the names of the logs are the numbers of the program and of the part
+number=0
 for program; do
   for part in $(seq 0 $((parts - 1))); do
-    (
-      code=0
-      GTEST_TOTAL_SHARDS=$parts GTEST_SHARD_INDEX=$part timeout 1800 "$program" --gtest_brief=1 >"$logs/$part" 2>&1 || code=$?
-      echo "$code" >"$logs/$part.code"
-    ) &
+    printf '%s\n%s\n%s\n' "$program" "$part" "$logs/$number-$part"
   done
-  wait
-  for part in $(seq 0 $((parts - 1))); do
-    count=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}\.$/\1/p' "$logs/$part")
-    wrong=$(grep -c '^\[  FAILED  \] ' "$logs/$part" || true)
-    code=$(cat "$logs/$part.code")
-    # without failures, only the lines with the counts are printed
-    [ "$code" -eq 0 ] || cat "$logs/$part"
-    [ "$code" -eq 0 ] || [ "$wrong" -gt 0 ] || {
-      echo "FAILED: $program stopped before its last test"
-      wrong=1
-    }
-    passed=$((passed + ${count:-0}))
-    failed=$((failed + wrong))
-  done
-done
+  number=$((number + 1))
+done >"$logs/list"
+# shellcheck disable=SC2016  # the inner shell expands the variables
+GTEST_TOTAL_SHARDS=$parts xargs -d '\n' -P "$processors" -n 3 sh -c '
+  code=0
+  GTEST_SHARD_INDEX=$2 timeout 1800 "$1" --gtest_brief=1 >"$3" 2>&1 || code=$?
+  echo "$code" >"$3.code"' part <"$logs/list"
+
+passed=0
+failed=0
+while read -r program && read -r part && read -r log; do
+  count=$(sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\{0,1\}\.$/\1/p' "$log")
+  wrong=$(grep -c '^\[  FAILED  \] ' "$log" || true)
+  code=$(cat "$log.code")
+  # without failures, only the lines with the counts are printed
+  [ "$code" -eq 0 ] || cat "$log"
+  [ "$code" -eq 0 ] || [ "$wrong" -gt 0 ] || {
+    echo "FAILED: part $part of $program stopped before its last test"
+    wrong=1
+  }
+  passed=$((passed + ${count:-0}))
+  failed=$((failed + wrong))
+  sed -n '/: Skipped$/ {n; s/^/skipped: /p}' "$log"
+done <"$logs/list"
 echo "$passed passed, $failed failed"
 [ "$failed" -eq 0 ]
