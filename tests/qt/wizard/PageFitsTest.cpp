@@ -102,7 +102,9 @@ TEST(ScreensTest, PagesFitASmallScreenAtEachScale) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.fileName());
     environment.insert("QT_SCALE_FACTOR", scale);
-    environment.remove("GTEST_TOTAL_SHARDS");  // otherwise this part of the tests may have none
+    // Otherwise this test runs only what belongs to its part of the tests.
+    environment.remove("GTEST_TOTAL_SHARDS");
+    environment.remove("GTEST_SHARD_INDEX");
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=PageFitsTest.*"});
