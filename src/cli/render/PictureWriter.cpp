@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -36,13 +37,14 @@ void WriteFile(const std::string& name, const std::string& bytes) {
   const fs::path path = runtime::PathOf(name);
   std::error_code ignored, error;
   const bool isThere = fs::is_regular_file(path, ignored);
+  const std::uintmax_t formerSize = isThere ? fs::file_size(path, ignored) : 0;
   const auto mode = std::ios::binary | std::ios::out;
   std::fstream file(path, isThere ? mode | std::ios::in : mode);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   if (!file) {
     error.assign(errno != 0 ? errno : EIO, std::generic_category());
-  } else if (isThere) {
+  } else if (formerSize > bytes.size()) {
     fs::resize_file(path, bytes.size(), error);
   }
   if (error) {
