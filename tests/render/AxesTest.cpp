@@ -337,6 +337,98 @@ TEST_F(AxesTest, DatesAreAtTheirDayMonthOrYear) {
   }
 }
 
+TEST_F(AxesTest, DateAxesShowTheDatesBetweenTheirBounds) {
+  const S dates = NumbersXml("cat", {45292, 45293, 45294, 45295, 45296}, "m-d");  // from 1 January 2024 on
+  const S trend =
+      "<c:trendline><c:trendlineType val=\"linear\"/><c:forward val=\"2\"/><c:backward "
+      "val=\"2\"/></c:trendline>";
+  const auto least = [](const S& date) { return "<c:min val=\"" + date + "\"/>"; };
+  const auto most = [](const S& date) { return "<c:max val=\"" + date + "\"/>"; };
+  struct {
+    const char* what;
+    S scaling, more, unit;
+    Texts labels;
+    std::vector<int> points;  // The numbers of the points that are seen.
+  } const cases[] = {
+      {"both", most("45295") + least("45293"), "", "", {"1-2", "1-3", "1-4"}, {2, 3, 4}},
+      {"the first date", least("45295"), "", "", {"1-4", "1-5"}, {4, 5}},
+      {"the last date", most("45293"), "", "", {"1-1", "1-2"}, {1, 2}},
+      {"room on both sides",
+       most("45297") + least("45291"),
+       "",
+       "",
+       {"12-31", "1-1", "1-2", "1-3", "1-4", "1-5", "1-6"},
+       {1, 2, 3, 4, 5}},
+      {"behind the data", least("45299"), "", "", {"1-8"}, {}},
+      {"before the data", most("45290"), "", "", {"12-30"}, {}},
+      {"the wrong way round",
+       most("45293") + least("45295"),
+       "",
+       "",
+       {"1-1", "1-2", "1-3", "1-4", "1-5"},
+       {1, 2, 3, 4, 5}},
+      {"no dates of Excel",
+       most("1e300") + least("-1"),
+       "",
+       "",
+       {"1-1", "1-2", "1-3", "1-4", "1-5"},
+       {1, 2, 3, 4, 5}},
+      {"months",
+       most("45350") + least("45270"),
+       "",
+       "<c:baseTimeUnit val=\"months\"/>",
+       {"12-1", "1-1", "2-1"},
+       {1, 2, 3, 4, 5}},
+      {"a trendline ends at the bounds",
+       most("45296") + least("45292"),
+       trend,
+       "",
+       {"1-1", "1-2", "1-3", "1-4", "1-5"},
+       {1, 2, 3, 4, 5}},
+      {"a trendline lengthens the free end",
+       least("45292"),
+       trend,
+       "",
+       {"1-1", "1-2", "1-3", "1-4", "1-5", "1-6", "1-7"},
+       {1, 2, 3, 4, 5}},
+  };
+  const struct {
+    const char* group;
+    S first;
+    Role role;
+  } groups[] = {{"barChart", "<c:barDir val=\"col\"/>", Role::kBar},
+                {"lineChart", "", Role::kDropLine},
+                {"areaChart", "", Role::kDropLine}};
+  for (const auto& c : cases) {
+    for (const auto& [group, first, role] : groups) {
+      SCOPED_TRACE(S(c.what) + " of " + group);
+      const S more = (group == S("areaChart") ? "" : c.more) + "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>";
+      const S series = SeriesXml(0, {1, 2, 3, 4, 5}, more, "", dates);
+      const S category =
+          "<c:scaling>" + c.scaling + "</c:scaling><c:numFmt formatCode=\"m-d\" sourceLinked=\"0\"/>";
+      const S axes = DateAxesXml(category + c.unit, "<c:crossBetween val=\"between\"/>");
+      const Drawing drawing = Draw(PlotXml(GroupXml(group, first, series, "<c:dropLines/>") + axes));
+      if (c.more.empty() || group != S("areaChart")) {
+        EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), c.labels);
+      }
+      for (const Role seen : {role, Role::kDataLabel}) {
+        std::vector<int> points;
+        for (const Item& item : ItemsOf(drawing, seen)) points.push_back(item.tag.point);
+        EXPECT_EQ(points, c.points);
+      }
+      EXPECT_EQ(DrawingComplaints(drawing), "");
+    }
+  }
+  notes_.clear();
+  const S scaling = "<c:scaling>" + most("45293") + "</c:scaling>";
+  const Drawing solid = Draw("<c:view3D/>" + PlotXml(GroupXml("bar3DChart", "<c:barDir val=\"col\"/>",
+                                                              SeriesXml(0, {1, 2, 3, 4, 5}, "", "", dates)) +
+                                                     DateAxesXml(scaling)));
+  EXPECT_EQ(TextsOf(solid, Role::kTickLabel, 1).size(), 5u);
+  EXPECT_EQ(notes_,
+            (render::Notes{"A date axis in 3-D shows all dates; its minimum and its maximum aren't used."}));
+}
+
 TEST_F(AxesTest, LinesAndAreasGoFromDateToDate) {
   const S dates = NumbersXml("cat", {45292, 45296, 45294}, "m-d");
   struct {

@@ -65,7 +65,7 @@ class AreaPainter {
       const double upper = values_.OfValue(to), lower = from == 0 ? base_ : values_.OfValue(from);
       borders.upper.push_back({x, upper});
       borders.lower.push_back({x, lower});
-      if (!present) continue;
+      if (!present || !categoryAxis_.Shows(i)) continue;
       bars_.Add(series, i, x, to);
       const double top = std::min(upper, lower), bottom = std::max(upper, lower);
       plot_.Keep({&group_, &series, i, {x, top, 0, bottom - top}, to < from});

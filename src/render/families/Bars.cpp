@@ -81,7 +81,7 @@ void DrawBars(Plot& plot, const GroupModel& group) {
     const SeriesModel& series = group.series[s];
     for (std::size_t i = 0; i < series.values.size(); ++i) {
       const double from = extents.from[s][i], to = extents.to[s][i];
-      if (!std::isfinite(to)) continue;
+      if (!std::isfinite(to) || !categoryAxis->Shows(i)) continue;
       const Rect box = places.BoxOf(s, i, from, to);
       if (thin) {
         merged.Add(series, i, box);

@@ -130,8 +130,9 @@ void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& serie
 }
 
 /// Draws a line in each category from its greatest value to the place `end`, or to its least value.
-void DrawUprights(Plot& plot, const AxisMap& categories, const AxisMap& values, const Extents& extents,
+void DrawUprights(Plot& plot, const AxisModel& axis, const AxisMap& values, const Extents& extents,
                   std::size_t count, const Stroke& stroke, std::optional<double> end = {}) {
+  const AxisMap categories = AxisMap::Along(axis, plot.area);
   for (std::size_t i = 0; i < count; ++i) {
     double least = std::numeric_limits<double>::infinity(), greatest = -least;
     for (const auto& series : extents.to) {
@@ -139,7 +140,7 @@ void DrawUprights(Plot& plot, const AxisMap& categories, const AxisMap& values, 
       least = std::min(least, series[i]);
       greatest = std::max(greatest, series[i]);
     }
-    if (!(greatest >= least)) continue;
+    if (!(greatest >= least) || !axis.Shows(i)) continue;
     const double x = categories.OfCategory(static_cast<double>(i));
     plot.canvas.AddLine({Role::kDropLine, 0, static_cast<int>(i + 1)}, {x, values.OfValue(greatest)},
                         {x, end.value_or(values.OfValue(least))}, stroke);
@@ -156,11 +157,11 @@ void DrawLines(Plot& plot, const GroupModel& group) {
   const AxisMap values = AxisMap::Along(*valueAxis, plot.area);
   const Extents extents = StackValues(group);
   if (group.dropLines) {
-    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.dropLines,
+    DrawUprights(plot, *categoryAxis, values, extents, group.PointCount(), *group.dropLines,
                  plot.CrossingOf(group));
   }
   if (group.highLowLines) {
-    DrawUprights(plot, categories, values, extents, group.PointCount(), *group.highLowLines);
+    DrawUprights(plot, *categoryAxis, values, extents, group.PointCount(), *group.highLowLines);
   }
   DrawUpDownBars(plot, group, extents);
   ErrorBarPainter bars(plot, group);

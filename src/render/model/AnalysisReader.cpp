@@ -236,6 +236,7 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
 /// date of Excel.
 void ExtendDates(const Trendline& line, xlsx::DateSystem system, AxisModel& axis) {
   DateSlots& dates = *axis.dates;
+  if (dates.hasLast) return;
   const double most = static_cast<double>(SlotOf(xlsx::kLastSerial, dates.base, system) - dates.first + 1);
   const double free = axis.crossesBetween ? 0.5 : 0;
   dates.count = std::max(dates.count, std::min(std::ceil(line.to - line.shift - free), most));
@@ -245,6 +246,7 @@ void ExtendDates(const Trendline& line, xlsx::DateSystem system, AxisModel& axis
 /// has dates.
 double SlotsBefore(const Trendline& line, xlsx::DateSystem system, const AxisModel& axis) {
   const DateSlots& dates = *axis.dates;
+  if (dates.hasFirst) return 0;
   long long least = SlotOf(0, dates.base, system);
   if (SerialOf(least, dates.base, system) < 0) ++least;
   const double most = static_cast<double>(std::max(dates.first - least, 0LL));

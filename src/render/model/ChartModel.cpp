@@ -100,6 +100,12 @@ std::size_t GroupModel::PointCount() const {
   return count;
 }
 
+bool AxisModel::Shows(std::size_t category) const {
+  if (!dates || category >= dates->positions.size()) return true;
+  const double position = dates->positions[category];
+  return position >= 0 && position < dates->count;
+}
+
 double AxisModel::SlotCount() const {
   return std::max(dates ? dates->count : static_cast<double>(categories.size()), 1.0);
 }

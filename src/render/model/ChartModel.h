@@ -414,6 +414,8 @@ struct AxisModel {
 
   /// Returns true if the axis is vertical.
   bool IsUpright() const { return side == Side::kLeft || side == Side::kRight; }
+  /// Returns false if a category, which counts from 0, is outside of the dates that the axis shows.
+  bool Shows(std::size_t category) const;
   /// Returns the number of categories along the axis, or of days, months or years; at least 1.
   double SlotCount() const;
   /// Returns the X values at the ends of the axis, as AxisMap::OfX takes them.

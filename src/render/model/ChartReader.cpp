@@ -74,7 +74,7 @@ void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& 
       category->crossesBetween = schema::Val(roles.value, "crossBetween", fallback) == "between";
     }
     if (category->kind == AxisKind::kDate && !category->dates && !group.HasXValues()) {
-      ReadDates(context, xml::Child(group.series.front().node, "cat"), *category);
+      ReadDates(context, group, *category);
     }
   }
   AxisModel* value = axisAt(group.value);

@@ -68,9 +68,8 @@ void FindVisibleTrendlines(ChartModel& chart);
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
 /// Replaces the entries of the legend by those of the bands, if the chart has surfaces.
 void AddBandEntries(ReadingContext& context, ChartModel& chart);
-/// Lays the categories of an axis of dates (c:cat) out by their dates; leaves it as one of categories where
-/// they are none.
-void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis);
+/// Places the categories of a group on a date axis. If they aren't dates, the axis stays one of categories.
+void ReadDates(ReadingContext& context, const GroupModel& group, AxisModel& axis);
 
 /// Reads the numbers of a series (c:val, c:xVal and the like), one for each point. A missing number is NaN.
 std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data);

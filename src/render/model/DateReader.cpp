@@ -34,12 +34,32 @@ TimeUnit BaseOf(const std::vector<double>& serials, xlsx::DateSystem dates) {
   return TimeUnit::kDays;
 }
 
+bool IsDate(double serial) { return serial >= 0 && serial <= xlsx::kLastSerial; }
+
+/// Takes the first and the last date that the file sets. Without them, the axis shows all dates.
+void ReadBounds(const AxisModel& axis, xlsx::DateSystem dates, DateSlots& slots) {
+  const auto bound = [&](const char* name) -> std::optional<long long> {
+    const auto serial = schema::NumberVal(xml::Child(axis.node, "scaling"), name);
+    if (!serial || !IsDate(*serial)) return std::nullopt;
+    return SlotOf(*serial, slots.base, dates);
+  };
+  const auto first = bound("min"), last = bound("max");
+  if (first && last && *first > *last) return;
+  long long begin = slots.first, end = begin + static_cast<long long>(slots.count) - 1;
+  if (first) begin = *first, end = std::max(end, begin);
+  if (last) end = *last, begin = std::min(begin, end);
+  slots.hasFirst = first.has_value();
+  slots.hasLast = last.has_value();
+  slots.first = begin;
+  slots.count = static_cast<double>(end - begin + 1);
+}
+
 }  // namespace
 
-void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& axis) {
+void ReadDates(ReadingContext& context, const GroupModel& group, AxisModel& axis) {
+  const auto categories = xml::Child(group.series.front().node, "cat");
   const std::vector<double> serials = ReadNumbers(context, categories);
-  const auto isDate = [](double serial) { return serial >= 0 && serial <= xlsx::kLastSerial; };
-  if (serials.empty() || !std::all_of(serials.begin(), serials.end(), isDate)) return;
+  if (serials.empty() || !std::all_of(serials.begin(), serials.end(), IsDate)) return;
   const xlsx::DateSystem dates = context.part.Book().Dates();
   DateSlots slots;
   slots.base = UnitOf(axis.node, "baseTimeUnit").value_or(BaseOf(serials, dates));
@@ -49,6 +69,12 @@ void ReadDates(ReadingContext& context, pugi::xml_node categories, AxisModel& ax
   const auto [least, greatest] = std::minmax_element(serials.begin(), serials.end());
   slots.first = SlotOf(*least, slots.base, dates);
   slots.count = static_cast<double>(SlotOf(*greatest, slots.base, dates) - slots.first + 1);
+  if (!group.is3D) {
+    ReadBounds(axis, dates, slots);
+  } else if (xml::Child(axis.node, "scaling", "min") || xml::Child(axis.node, "scaling", "max")) {
+    context.notes.emplace_back(
+        "A date axis in 3-D shows all dates; its minimum and its maximum aren't used.");
+  }
   for (const double serial : serials) {
     slots.positions.push_back(static_cast<double>(SlotOf(serial, slots.base, dates) - slots.first));
   }

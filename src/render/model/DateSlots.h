@@ -18,7 +18,10 @@ struct DateSlots {
   long long first = 0;
   /// The number of slots on the axis.
   double count = 0;
-  /// The positions of the categories, in slots from the first one.
+  /// Whether the file sets the first and the last date. Then a trendline doesn't lengthen the axis there.
+  bool hasFirst = false, hasLast = false;
+  /// The positions of the categories, in slots from the first one. Categories outside of the axis have
+  /// positions below 0 or from `count` on.
   std::vector<double> positions;
   /// The distance between two labels in units of `majorBase`. 0 is automatic.
   double majorUnit = 0;
