@@ -237,7 +237,7 @@ enum class Role : std::uint8_t {
   kTableLine,  ///< A line of a data table. The texts have the numbers of their series and point.
   kTableText,
   kSurface,
-  kSeriesLine  ///< A line between the two plots of a pie of pie.
+  kSeriesLine  ///< A line between stacked bars, or between the two plots of a pie of pie.
 };
 /// Returns the name of a role without the k, such as "ChartArea".
 std::string_view NameOf(Role role);

@@ -104,9 +104,6 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
     const bool hasShadows = std::any_of(group.series.begin(), group.series.end(),
                                         [](const SeriesModel& series) { return series.HasShadows(); });
     if (group.is3D && hasShadows) canvas.Note("Shadows of bodies in 3-D aren't drawn.");
-    if (group.seriesLines && group.IsStacked()) {
-      canvas.Note("Series lines between stacked bars aren't drawn.");
-    }
     if (has(group.node, "upDownBars") && !group.upDownBars) {
       canvas.Note("Up/down bars are only drawn between lines.");
     }

@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 #include "render/axes/AxisPlace.h"
+#include "render/axes/DateAxis.h"
 #include "render/families/Analysis.h"
 #include "render/families/Families.h"
 #include "render/families/ThinBars.h"
@@ -44,6 +46,8 @@ class BarPlaces {
 
   bool IsHorizontal() const { return horizontal_; }
   double Width() const { return slots_.width; }
+  /// Returns the place of a value along the value axis.
+  double OfValue(double value) const { return values_.OfValue(value); }
   /// Returns the bar of a point from one value to another. Series and points count from 0.
   Rect BoxOf(std::size_t series, std::size_t point, double from, double to) const {
     const double begin = from == 0 ? base_ : values_.OfValue(from), end = values_.OfValue(to);
@@ -62,6 +66,40 @@ class BarPlaces {
   BarSlots slots_;
   double base_;
 };
+
+/// The bar of a point, as far as series lines need it.
+struct BarEnd {
+  double from = 0, to = 0;  ///< its edges along the category axis
+  double end = 0;           ///< the place of its value
+};
+
+/// Draws the series lines of stacked bars. Each goes from the end of a bar to the end of the next bar of its
+/// series.
+void DrawSeriesLines(Plot& plot, const GroupModel& group, const AxisModel& axis, const BarPlaces& places,
+                     const Extents& extents) {
+  for (std::size_t s = 0; s < group.series.size(); ++s) {
+    std::optional<BarEnd> previous;
+    for (const std::size_t i : OrderAlong(axis, group.series[s].values.size())) {
+      const double to = extents.to[s][i];
+      if (!std::isfinite(to) || !axis.Shows(i)) {
+        previous.reset();
+        continue;
+      }
+      const Rect box = places.BoxOf(s, i, extents.from[s][i], to);
+      const BarEnd bar = places.IsHorizontal() ? BarEnd{box.top, box.Bottom(), places.OfValue(to)}
+                                               : BarEnd{box.left, box.Right(), places.OfValue(to)};
+      if (previous) {
+        const bool isForward = bar.from >= previous->from;
+        Point begin{isForward ? previous->to : previous->from, previous->end};
+        Point end{isForward ? bar.from : bar.to, bar.end};
+        if (places.IsHorizontal()) begin = {begin.y, begin.x}, end = {end.y, end.x};
+        plot.canvas.AddLine({Role::kSeriesLine, group.series[s].number, static_cast<int>(i + 1)}, begin, end,
+                            *group.seriesLines);
+      }
+      previous = bar;
+    }
+  }
+}
 
 }  // namespace
 
@@ -99,6 +137,7 @@ void DrawBars(Plot& plot, const GroupModel& group) {
   const bool hasShadows = std::any_of(group.series.begin(), group.series.end(),
                                       [](const SeriesModel& series) { return series.HasShadows(); });
   if (thin && hasShadows) plot.canvas.Note("Shadows of bars that are thinner than a pixel aren't drawn.");
+  if (group.seriesLines && group.IsStacked()) DrawSeriesLines(plot, group, *categoryAxis, places, extents);
   bars.Draw();
   plot.canvas.PopClip();
   DrawTrendlines(plot, group);

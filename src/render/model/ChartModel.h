@@ -305,7 +305,8 @@ struct GroupModel {
   /// The lines from points to the category axis, and the lines from the highest to the lowest point of each
   /// category. They are absent if the group has none.
   std::optional<Stroke> dropLines, highLowLines;
-  /// The lines between the two plots of a pie of pie. They are absent if the group has none.
+  /// The lines between stacked bars, or between the two plots of a pie of pie. They are absent if the group
+  /// has none.
   std::optional<Stroke> seriesLines;
   /// The up/down bars. They are absent if the group has none.
   std::optional<UpDownBars> upDownBars;
