@@ -607,6 +607,14 @@ TEST_F(AnalysisTest, SeriesLinesJoinTheEndsOfStackedBars) {
   }
 }
 
+TEST_F(AnalysisTest, SeriesLinesOfThinBarsAreReported) {
+  const Drawing drawing = Draw(
+      PlotXml(ColumnsXml(SeriesXml(0, Numbers(2000, 1)), "<c:overlap val=\"100\"/><c:serLines/>", "stacked") +
+              AxesXml()));
+  EXPECT_EQ(ItemsOf(drawing, Role::kSeriesLine).size(), 0u);
+  EXPECT_EQ(notes_, render::Notes{"Series lines between bars that are thinner than a pixel aren't drawn."});
+}
+
 TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
   S trends;
   for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");

@@ -137,7 +137,13 @@ void DrawBars(Plot& plot, const GroupModel& group) {
   const bool hasShadows = std::any_of(group.series.begin(), group.series.end(),
                                       [](const SeriesModel& series) { return series.HasShadows(); });
   if (thin && hasShadows) plot.canvas.Note("Shadows of bars that are thinner than a pixel aren't drawn.");
-  if (group.seriesLines && group.IsStacked()) DrawSeriesLines(plot, group, *categoryAxis, places, extents);
+  if (group.seriesLines && group.IsStacked()) {
+    if (thin) {
+      plot.canvas.Note("Series lines between bars that are thinner than a pixel aren't drawn.");
+    } else {
+      DrawSeriesLines(plot, group, *categoryAxis, places, extents);
+    }
+  }
   bars.Draw();
   plot.canvas.PopClip();
   DrawTrendlines(plot, group);
