@@ -26,7 +26,8 @@ class FormWindow final : public QWidget {
   forms::Form& Model() const { return form_; }
   /// Shows the changes of the form.
   void Update();
-  /// Called when the window is the front window again. Actions on it were discarded meanwhile.
+  /// Activates the window when it is the front window again. Discards the actions on it that were not
+  /// performed yet.
   void BecomeFront();
   /// Returns the widget of a control, or null for an invisible control.
   QWidget* WidgetOf(const forms::Control& control) const;
