@@ -43,7 +43,7 @@ void Refresh(IDispatch* application, const std::string& name, const std::string&
       [&](const Host& host) { CPlotsmithController().RefreshPlotsmithData(host, name, helpFile); });
 }
 
-/// The operation takes the table's name by reference and doesn't change it.
+/// Refreshes the charts of a table. The operation takes the table's name by reference, but doesn't change it.
 void RefreshTable(IDispatch* application, std::string table) {
   Run("CPlotsmithController.RefreshChartsForTable", application,
       [&](const Host& host) { CPlotsmithController().RefreshChartsForTable(host, table); });
