@@ -78,7 +78,7 @@ class SheetSource {
 
   /// Clears the cache of cell styles, for example after a change of the palette.
   void DiscardLooks() { looks_.clear(); }
-  /// The number of cells that were read from the host, which measures the cost of scrolling.
+  /// The number of cells that were read from the host. It measures the cost of scrolling.
   std::uint64_t CellsRead() const { return cellsRead_; }
 
  private:

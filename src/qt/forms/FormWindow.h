@@ -55,7 +55,7 @@ class FormWindow final : public QWidget {
   forms::SecondPress& presses_;
   QScrollArea* scroll_;
   std::vector<std::unique_ptr<ControlView>> views_;
-  bool movesFocus_ = false;  ///< Whether the model moves the focus at present.
+  bool movesFocus_ = false;  ///< Whether the model is moving the focus now.
 };
 
 }  // namespace plotsmith::qt

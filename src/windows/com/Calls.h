@@ -17,7 +17,7 @@ namespace plotsmith::com {
 /// of the class share. Make one Member for each member of each class, and reuse it.
 class Member {
  public:
-  /// `name` must outlive the member.
+  /// Makes a member with this name. `name` must outlive the member.
   explicit constexpr Member(const wchar_t* name) : name_(name) {}
   Member(const Member&) = delete;
   Member& operator=(const Member&) = delete;

@@ -17,8 +17,8 @@ namespace plotsmith::proxies {
 /// read from the stretch. A stretch that continues the previous one is twice as long. A stretch is dropped
 /// after any call that may have changed something.
 ///
-/// Values are those of Range.Value, which distinguishes dates from numbers. It returns a number in a currency
-/// format as a Currency with four decimals, as in a macro.
+/// Values are those of Range.Value, which distinguishes dates from numbers. For a number in a currency
+/// format, Range.Value returns a Currency with four decimals, as in a macro.
 class CellReader {
  public:
   /// Sets the maximum number of rows of a stretch; the default is 16384. With 1, each cell is read by itself;

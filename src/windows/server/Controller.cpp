@@ -56,7 +56,7 @@ void RenameColumns(IDispatch* application, const std::string& table, std::vector
   });
 }
 
-/// All arguments are read before the operation begins.
+/// Reads the arguments and runs an operation. All arguments are read before the operation begins.
 void InvokeOperation(DISPID operation, const DISPPARAMS& sent) {
   switch (operation) {
     case kRunPlotsmith:
@@ -107,7 +107,7 @@ VARIANT AsArgument(SAFEARRAY** texts) {
 }
 ///@}
 
-/// The arguments are in reverse order, as in a late-bound call.
+/// Runs an operation for an early-bound client. The arguments are in reverse order, as in a late-bound call.
 HRESULT InvokeEarlyBound(DISPID operation, std::initializer_list<VARIANT> reversed) noexcept {
   try {
     std::vector<VARIANT> arguments(reversed);
