@@ -1,6 +1,6 @@
 #!/bin/sh
 # Counts the calls to Excel's members that a refresh of one chart makes, over tables of several lengths, and compares
-# them with a run that reads cell by cell. It runs under Wine.
+# the numbers with those of a run that reads cell by cell. Both run under Wine.
 set -eu
 cd "$(dirname "$0")/.."
 scripts/install-dependencies.sh wine wine64

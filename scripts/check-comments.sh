@@ -1,6 +1,6 @@
 #!/bin/sh
 # Names the public members of all headers in src/ that have no comment. `make docs` calls this script after it has built
-# the reference, which shows only some of the rooms.
+# the reference, because the reference shows only some of the rooms.
 set -eu
 cd "$(dirname "$0")/.."
 {

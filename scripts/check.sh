@@ -1,6 +1,6 @@
 #!/bin/sh
 # Runs the tests of the release build twice: in a locale with a decimal comma and in the default locale. LibreOffice opens
-# workbooks only in the second run, because the first one writes the same.
+# workbooks only in the second run, because the first run writes the same workbooks.
 set -eu
 cd "$(dirname "$0")/.."
 scripts/install-dependencies.sh locales

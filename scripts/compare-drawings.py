@@ -4,10 +4,10 @@
 Usage: compare-drawings.py FOLDER [BOOK...]
 
 FOLDER is made by scripts/render-pairs.sh. It contains a folder for each workbook, with the lists of bench/draw_charts
-and a PDF whose first pages are LibreOffice's. If BOOKs are given, which are names of such folders, only those are
-compared. The script prints for each kind of item how many were found in both pictures, and the median and the largest
-distance in points. The distance of two texts is that of their centres; the distance of other items is the largest one
-between corresponding edges. FOLDER/worst.tsv lists the largest distances.
+and a PDF whose first pages are LibreOffice's. If BOOKs are given, only those are compared; each is the name of such a
+folder. For each kind of item, the script prints how many items were found in both pictures, and the median and the
+largest distance in points. The distance of two texts is the distance of their centres. The distance of other items is
+the largest distance between corresponding edges. FOLDER/worst.tsv lists the largest distances.
 """
 
 import html

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Breaks the code by one line at a time and sees whether a test notices.
+"""Breaks the code in one place at a time and checks whether a test notices.
 
     scripts/mutate.py src/readback src/builder --count 40 --seed 1
 
@@ -210,7 +210,7 @@ def overlaps(fault, others):
 
 
 class Build:
-    """The ordinary build, which provides the other objects and the command lines."""
+    """The ordinary build, which provides all other objects and the command lines."""
 
     def __init__(self, folder):
         self.folder = folder
@@ -290,7 +290,7 @@ def compiled(build, unit, faults):
         if not places:
             return target, faults
         bad = [f for f in faults if (f.path, f.line) in places]
-        # an error that no fault's line has, such as of a table whose size must be known: leave out one by one
+        # no fault's line has the error, for example if the size of a table must be known: leave out one by one
         path, line = places[0]
         bad = bad or [f for f in faults if f.path == path and f.line < line][-1:] or faults[-1:]
         faults = [f for f in faults if f not in bad]

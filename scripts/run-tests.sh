@@ -1,7 +1,7 @@
 #!/bin/sh
-# Runs test programs. Prints why tests were skipped, and how many passed. Each program is split into parts, of which as
-# many run at a time as there are processors. One process per test, as ctest starts them, takes longer than most tests,
-# above all under the sanitizers. A part that has not ended within half an hour is stopped.
+# Runs test programs. Prints why tests were skipped, and how many passed. Each program is split into parts, and as many
+# parts run at the same time as there are processors. ctest would start a process for each test, which takes longer than
+# most tests, especially under the sanitizers. A part that has not ended within half an hour is stopped.
 # Usage: scripts/run-tests.sh PROGRAM...
 set -eu
 processors=$(nproc)

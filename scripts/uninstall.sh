@@ -1,5 +1,5 @@
 #!/bin/sh
-# Removes the installed files that are listed by the last installation. DESTDIR must be the same as then.
+# Removes the files that the last installation has listed. DESTDIR must be the same as for that installation.
 # Usage: scripts/uninstall.sh [LIST]
 set -eu
 cd "$(dirname "$0")/.."
@@ -12,7 +12,7 @@ root=${DESTDIR:-}
 while IFS= read -r file || [ -n "$file" ]; do
   rm -f -- "$root$file"
 done <"$list"
-# Only the folders of the pages and of the library belong to Plotsmith alone.
+# Only the folders of the pages and of the library contain nothing but Plotsmith's files.
 sed -n -e 's|^\(.*/doc/plotsmith\)/.*|\1|p' -e 's|^\(.*/lib/plotsmith\)/.*|\1|p' "$list" | sort -u | while IFS= read -r folder; do
   if [ -d "$root$folder" ]; then find "$root$folder" -depth -type d -empty -delete; fi
 done

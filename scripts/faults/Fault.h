@@ -3,12 +3,12 @@
 #include <utility>
 
 /// The functions that scripts/mutate.py writes into copies of the sources. Each place computes what the
-/// source says, unless its fault is active. One program so contains all faults, and at most one of them is
+/// source says, unless its fault is active. Thus one program contains all faults, and at most one of them is
 /// active in a run.
 namespace plotsmith_fault {
 
-/// Returns true if the fault with this number is active. If the run records, it also notes which test came
-/// here.
+/// Returns true if the fault with this number is active. If the run is recorded, this also notes which test
+/// has reached the fault.
 bool On(int fault);
 
 template <class T>

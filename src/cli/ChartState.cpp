@@ -8,7 +8,7 @@ namespace plotsmith::cli {
 ChartState StateOf(const dom::IXMLDOMElement& definition, const excel::Ref<excel::Chart>& object) {
   if (GetAttributeText(definition, "type") == "unknown") return ChartState::kUnsupported;
   if (GetAttributeText(definition, "table-corrupted") == "yes") return ChartState::kTable;
-  // A chart that can't be built has lost its series. It isn't crosshatched if its area has a filling, and the
+  // A chart that can't be built has lost its series. It isn't crosshatched if its area has a fill, and the
   // wizard repairs a chart without updating `chart-area-crosshatched`, so the series decide.
   if (ValueOr(false, [&] { return object->SeriesCollection()->Count() > 0; })) return ChartState::kOk;
   return GetAttributeText(definition, "chart-area-crosshatched") == "yes" ? ChartState::kUnavailable

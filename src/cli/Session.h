@@ -45,7 +45,7 @@ class Session {
   /// The open workbook.
   xlsx::Workbook& Book() const { return host_->Book(); }
 
-  /// Sets the system's variables to the workbook, without finding its tables, which takes long in a large
+  /// Sets the system's variables to the workbook. Doesn't find its tables, because that takes long in a large
   /// workbook.
   void UseBook() const;
   /// Finds the tables.

@@ -80,7 +80,8 @@ class Control {
   std::string AccessibleName() const;
   void SetAccessibleName(std::string value);
   ///@}
-  /// The description for screen readers: the frame of the control, unless the name contains it.
+  /// The description for screen readers: the accessible name of the control's frame, unless the control's own
+  /// name begins with it.
   std::string AccessibleDescription() const;
 
   /// Moves the focus to this control. The control that had the focus raises Validate, and then this one
@@ -92,8 +93,8 @@ class Control {
   /// Raised when the focus moves from this control to another one.
   Event Validate;
 
-  /// Returns why the user can't use the control at present, as the end of a sentence ("is off"). It is empty
-  /// if the user can.
+  /// Returns the reason why the user can't use the control at present, as the end of a sentence ("is off"),
+  /// or an empty text if the user can.
   std::string Obstacle() const;
   /// Handles a move of the focus by the user. Like all members that begin with User, it returns false and
   /// does nothing if the user can't use the control.

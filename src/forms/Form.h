@@ -42,14 +42,14 @@ class Form {
   const std::vector<Control*>& Controls() const { return controls_; }
   /// Returns a control by its full name ("optType(1)"), or null if there is none.
   Control* FindControl(std::string_view fullName) const;
-  /// The layout of the controls. By default the controls are below each other.
+  /// The layout of the controls. By default the controls are one below the other.
   virtual forms::Layout Layout() const;
   /// The control with the focus, or null if none has it.
   Control* ActiveControl() const { return activeControl_; }
 
   /// Loads the form. The first call raises Form_Load.
   void Load();
-  /// Unloads the form: hides it for good. The first call raises Form_Unload.
+  /// Unloads the form, which hides it for good. The first call raises Form_Unload.
   void Unload();
   /// Hides the form. This ends its modal show.
   void Hide();

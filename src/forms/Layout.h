@@ -14,7 +14,7 @@ struct Layout {
   /// The kind of a part.
   enum class Kind {
     kRow,      ///< Side by side, in reading direction.
-    kColumn,   ///< Below each other.
+    kColumn,   ///< One below the other.
     kGrid,     ///< Rows of `columns` aligned parts.
     kStack,    ///< In the same place, for controls of which at most one is visible.
     kControl,  ///< A control. A frame has one part inside.

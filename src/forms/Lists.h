@@ -58,7 +58,7 @@ class ComboBox : public EntryList {
       : EntryList(form, name, container), style_(style) {}
   const char* TypeName() const override { return "ComboBox"; }
 
-  /// The style, which is fixed.
+  /// The style, which can't be changed.
   ComboStyle Style() const { return style_; }
   /// The text in the box: the text of the current entry, or the typed text.
   std::string Text() const;
@@ -69,7 +69,8 @@ class ComboBox : public EntryList {
   /// Handles the selection of an entry by the user. `index` counts from 0. Raises Click, also for the current
   /// entry. Returns false if the user can't use the control.
   bool UserChoose(std::int32_t index);
-  /// Returns why the user can't type the text, as the end of a sentence. It is empty if the user can.
+  /// Returns the reason why the user can't type the text, as the end of a sentence, or an empty text if the
+  /// user can.
   std::string ObstacleTo(std::string_view text) const;
   /// Handles typing by the user, which replaces the text. Returns false if the user can't type it.
   bool UserType(std::string_view text);
@@ -96,7 +97,7 @@ class ListBox : public EntryList {
       : EntryList(form, name, container), multiSelect_(multiSelect) {}
   const char* TypeName() const override { return "ListBox"; }
 
-  /// Whether several entries can be selected; fixed.
+  /// Whether several entries can be selected. This can't be changed.
   forms::MultiSelect MultiSelect() const { return multiSelect_; }
   /// The text of the current entry, or empty if there is none.
   std::string Text() const { return List(ListIndex()); }

@@ -34,9 +34,9 @@ class EventQueue {
   std::deque<Entry> events_;
 };
 
-/// Shows forms and reports the actions of the user. Implementations are windows of a toolkit, or a script.
-/// Its members throw no exceptions. An unloaded form is no longer Visible and must not be shown. It is closed
-/// only after its last event has returned, when the next form may already be open.
+/// Shows forms and reports the actions of the user. An implementation uses the windows of a toolkit, or a
+/// script. Its members throw no exceptions. An unloaded form is no longer Visible and must not be shown. The
+/// loop closes it only after its last event has returned, when the next form may already be open.
 class View {
  public:
   virtual ~View() = default;

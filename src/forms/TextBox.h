@@ -43,7 +43,8 @@ class TextBox : public FontControl {
   void SetAlignment(forms::Alignment value) { alignment_ = value; }
   ///@}
 
-  /// Returns why the user can't type the text, as the end of a sentence. It is empty if the user can.
+  /// Returns the reason why the user can't type the text, as the end of a sentence, or an empty text if the
+  /// user can.
   std::string ObstacleTo(std::string_view text) const;
   /// Handles typing by the user, which replaces the text. All line ends become CR LF. Returns false if the
   /// user can't type the text.

@@ -27,7 +27,7 @@ class VSFlexGrid : public FontControl {
              std::int32_t cols, std::int32_t fixedRows);
   const char* TypeName() const override { return "VSFlexGrid"; }
 
-  /// Whether several rows can be selected; fixed.
+  /// Whether several rows can be selected. This can't be changed.
   forms::MultiSelect MultiSelect() const { return multiSelect_; }
   /// The number of rows, including the fixed ones. New rows are empty and not selected.
   ///@{

@@ -15,7 +15,8 @@ using dom::IXMLDOMElement;
 
 namespace {
 
-/// `newName` is called only if the old name is found.
+/// Renames a column in a definition, together with axis labels that contain only its name. `newName` returns
+/// the new name; it is called only if the old name is found.
 template <class NewName>
 void RenameColumn(const dom::IXMLDOMDocument2& oDoc, const std::string& sOld, const NewName& newName) {
   for (IXMLDOMElement oColumn : oDoc.selectNodes("//column")) {

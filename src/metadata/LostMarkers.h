@@ -15,8 +15,8 @@
 /// detached by a person.
 namespace plotsmith {
 
-/// The charts of `oWorkbook` without an alternative text. It is empty unless the program that saved the file
-/// last drops these texts. Each chart is read once, when the search reaches it.
+/// The charts of `oWorkbook` without an alternative text. There are none unless the program that saved the
+/// file last drops these texts. Each chart is read once, when the search reaches it.
 class UnmarkedCharts {
  public:
   /// Finds a chart that shows a data block of the id and restores its alternative text. Returns the name of

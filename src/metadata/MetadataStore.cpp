@@ -41,7 +41,8 @@ struct ReadRow {
 /// beside their texts from the load or the save, so a row is parsed again only if its text has changed.
 std::vector<ReadRow> aReadRows;
 
-/// The rows above this one have the texts in the cache as long as the sheet has this version.
+/// The cache is up to date for the rows above lFirstUncomparedRow, as long as the sheet's ContentsVersion is
+/// lComparedVersion.
 std::int32_t lFirstUncomparedRow = kFirstDefinitionRow;
 std::uint64_t lComparedVersion = 0;
 

@@ -15,8 +15,8 @@ namespace plotsmith {
 /// Replaces `colTables`: first the range tables in the order of their names, then the data sheets.
 void RetrieveTableDefinitions();
 
-/// Returns true if a defined name defines a table, which depends on its beginning. A name that belongs to one
-/// sheet doesn't.
+/// Returns true if a defined name marks a table. Only the beginning of the name matters. A name that belongs
+/// to one sheet never marks a table.
 bool NamesTable(std::string_view sName);
 /// Returns true if the value makes its column a label column. That is any value except numbers, Booleans,
 /// texts that look like numbers, and blanks.

@@ -49,7 +49,8 @@ class Page : public forms::Form {
   /// Shows a message and moves the focus to the control that it concerns. An empty text shows the pending
   /// message. On a page that isn't shown yet, the message becomes the pending message.
   void DisplayMessage(const std::string& sMessage);
-  /// Leaves the page for the page with the number `lStep`. `oPage` is this page.
+  /// Asks the controller for a move from this page. `lStep` is a constant of `step`. `oPage`, if given, is
+  /// unloaded first.
   void PSJumpToStep(std::int32_t lStep, Page* oPage) { oNavigation_.PSJumpToStep(lStep, lOrigin_, oPage); }
   /// Opens the help at the page's topic.
   void ShowHelp() const;

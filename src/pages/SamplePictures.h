@@ -11,7 +11,8 @@ namespace plotsmith {
 /// The names of the sample pictures.
 extern const std::array<std::string_view, 41> aSamplePictureNames;
 
-/// Draws the picture with that name, which is case-sensitive. Raises error 5 if there is none.
+/// Draws the picture with this name. The comparison is case-sensitive. Raises error 5 if there is no such
+/// picture.
 pictures::Picture SamplePicture(std::string_view sName);
 
 }  // namespace plotsmith

@@ -13,11 +13,11 @@ namespace plotsmith {
 /// The procedures that the busy window can run. They belong to modules above the pages, so the controller
 /// passes them in.
 struct BusyWork {
-  /// Loads all chart definitions.
+  /// Rebuilds all charts.
   std::function<void()> PopulateAllCharts;
   /// Builds one chart.
   std::function<void(const std::string& sChartID)> PopulateChart;
-  /// Executes a run in a mode, a constant of `method`.
+  /// Executes a run. `lMode` is 0 for the wizard and 1 for the refresh of all charts.
   std::function<void(std::int32_t lMode)> ExecuteRun;
 };
 
@@ -26,7 +26,7 @@ struct BusyWork {
 /// and shows the window.
 class frmBusyPS final : public forms::Form {
  public:
-  /// Makes the window. `oWork` has the operations that it can run.
+  /// Makes the window. `oWork` contains the operations that it can run.
   explicit frmBusyPS(BusyWork oWork);
 
   bool bWorking = false;  ///< Whether the operation has started.

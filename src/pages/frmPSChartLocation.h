@@ -38,7 +38,7 @@ class frmPSChartLocation final : public Page {
   std::int32_t HelpTopic() const override { return 8; }
   void UpdateForBack() override;
   forms::Control* FocusAfter(const std::string& sMessage) override;
-  /// Doesn't end the run: the run ends by itself after its last page.
+  /// Does nothing, unlike on other pages: a run ends by itself after its last page.
   void Form_Unload() override {}
 
  private:

@@ -2,8 +2,8 @@
 
 namespace plotsmith::runtime {
 
-/// Returns the number of threads of this process that can run at the same time, which is the number of
-/// processors that it may use; at least 1.
+/// Returns the number of processors that this process may use, at least 1. As many of its threads can run at
+/// the same time.
 unsigned ProcessorCount();
 
 }  // namespace plotsmith::runtime

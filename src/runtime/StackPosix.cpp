@@ -7,7 +7,7 @@
 namespace plotsmith::runtime {
 namespace {
 
-/// Returns the lowest address of this thread's stack; 0 if the system doesn't know it.
+/// Returns the lowest usable address of this thread's stack; 0 if the system doesn't know it.
 std::uintptr_t StackEnd() {
   pthread_attr_t attributes;
   if (pthread_getattr_np(pthread_self(), &attributes) != 0) return 0;
@@ -23,7 +23,7 @@ std::uintptr_t StackEnd() {
 }  // namespace
 
 std::size_t StackLeft() {
-  // For the first thread the system reads a file, so the result is kept.
+  // The system reads a file to find the stack of the first thread, so the result is kept.
   thread_local const std::uintptr_t end = StackEnd();
   const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
   return end == 0 ? std::numeric_limits<std::size_t>::max() : here - end;

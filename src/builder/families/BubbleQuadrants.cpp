@@ -31,8 +31,8 @@ struct Span {
   }
   bool IsUnseen() const { return dMax == -kUnseen || dMin == kUnseen; }
 
-  /// Extends the range to zero on the side where the values don't reach it, and by a tenth on the other
-  /// sides.
+  /// Extends a range that excludes zero up to zero, and by a tenth at its other end. Extends any other range
+  /// at both ends by a tenth of its upper limit.
   void Widen() {
     if (dMin > 0) {
       dMin = 0;

@@ -39,8 +39,8 @@ std::string BucketCells(const Block& oBlock, std::int32_t lRow) {
 }
 
 /// Returns the reference to the bucket names in the header row. In the newer notation a column is one
-/// character. The characters after Z give no valid reference, and the host refuses it; the lower-case letters
-/// refer to the columns from A again.
+/// character. The characters just after Z don't give a valid reference, so the host refuses them. The
+/// lower-case letters after those refer to the columns from A again.
 std::string BucketNames(const Block& oBlock) {
   if (HostVersion(mChart->Application()) <= kLastClassicVersion)
     return BucketCells(oBlock, oBlock.lHeaderRow);

@@ -155,8 +155,8 @@ void PlaceLegend() {
   }
 }
 
-/// Returns true if a program dropped the drawn legend. If a user has deleted the legend, the plot area has
-/// its full width since the next refresh. If a program has dropped it, the legend's space is still free.
+/// Returns true if a program has dropped the drawn legend. After a user deletes the legend, the next refresh
+/// gives the plot area its full width. If a program has dropped the legend, its space is still free.
 bool DrawnLegendWasDropped() {
   if (!LossesOfLastSave().bShapesOnCharts) return false;
   const auto oPlotArea = mChart->PlotArea();

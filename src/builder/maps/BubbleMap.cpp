@@ -32,8 +32,8 @@ void NumberBubbles(const IXMLDOMElement& oChartElement, const DataRows& oRows,
   }
 }
 
-/// Adds the rules of the four columns of a bubble. The color and the size have a value of their own if the
-/// chart has no column for them.
+/// Adds the rules of the four columns of a bubble. If the chart has no column for the colour or the size, the
+/// rule has a constant in its place.
 void AddBubbleRules(const IXMLDOMElement& oChartElement, std::int32_t lNameColumn) {
   std::int32_t lColorColumn = -1;
   if (const auto oSeries = oChartElement.selectSingleNode("series")) {

@@ -95,7 +95,7 @@ class Numbering {
 
   /// Numbers a listed heading. Raises an error if the heading already has a number, ignoring case.
   std::int32_t Add(const std::string& sName);
-  /// Numbers a heading of the system. Its key isn't upper-cased.
+  /// Numbers a heading that the system itself adds. Its key isn't upper-cased.
   void AddPseudo(const std::string& sName);
   /// Gives a name the next number, even if it has one.
   std::int32_t Put(const std::string& sKey, const std::string& sName);

@@ -46,7 +46,7 @@ void NumberItems(const IXMLDOMElement& oChartElement, const DataRows& oRows, exc
   }
 }
 
-/// Adds the rules: for each item its label and its place, and for each item and bucket the sum of the values.
+/// Adds the rules for each item's label and sort key, and for the sum of the values of each item and bucket.
 void AddBucketRules(const IXMLDOMElement& oChartElement, std::int32_t lItemColumn,
                     std::int32_t lBucketNameColumn, std::int32_t lBucketValueColumn) {
   std::int32_t lLabelColumn = -1;

@@ -16,7 +16,7 @@ namespace bucket_column {
 inline constexpr std::int32_t kLabel = data_column::kFirstSeries;
 /// The sort keys.
 inline constexpr std::int32_t kSort = kLabel + 1;
-/// The first of the buckets, which take the columns from here.
+/// The first bucket. The other buckets follow it.
 inline constexpr std::int32_t kFirstBucket = kLabel + 2;
 }  // namespace bucket_column
 

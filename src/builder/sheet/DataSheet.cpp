@@ -23,8 +23,8 @@ using runtime::Ref;
 
 namespace {
 
-/// Looks up a cell's text in the positions. Consecutive instructions ask for the same cell, so the last
-/// answer of the row is kept.
+/// Looks up the position of a cell's text. Consecutive instructions often use the same cell, so the last
+/// result for the row is kept.
 class CellIndex {
  public:
   CellIndex(excel::Worksheet& oSheet, Dictionary& oPositions) : oSheet_(oSheet), oPositions_(oPositions) {}

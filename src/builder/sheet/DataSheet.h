@@ -21,11 +21,11 @@ namespace plotsmith {
 /// Empty.
 class Rectangle {
  public:
-  /// Raises error 7 if the data sheet can't contain so many values.
+  /// Makes a rectangle of Empty values. Raises error 7 if the data sheet can't contain so many values.
   Rectangle(std::int32_t lCategories, std::int32_t lSeries)
       : lCategories_(lCategories), lSeries_(lSeries), aValues_(SizeOf(lCategories, lSeries)) {}
 
-  /// Returns the value of a category and a series. Raises error 9 outside of the rectangle.
+  /// Returns the value of a category and a series. Raises error 9 outside the rectangle.
   runtime::Variant& At(std::int32_t lCategory, std::int32_t lSeries) {
     if (lCategory < 1 || lCategory > lCategories_ || lSeries < 1 || lSeries > lSeries_) {
       throw runtime::RuntimeError(runtime::error::kSubscript);

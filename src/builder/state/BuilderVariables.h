@@ -39,7 +39,7 @@ extern std::int32_t mSeriesCount;    ///< The number of columns of the rectangle
 extern runtime::Ref<runtime::Dictionary>
     mStrategicBuckets;  ///< The values of the buckets by name in upper case.
 
-/// The filling of each series name of a bubble or strategic bucket chart, in the order of first appearance.
+/// The fill of each series name of a bubble or strategic bucket chart, in the order of first appearance.
 extern runtime::Ref<runtime::Collection<runtime::Ref<CPSColor>>> mSeriesColors;
 
 /// The persisted properties; see PersistedProperties.h.

@@ -14,9 +14,9 @@ struct TaskEnding {
   std::optional<std::string> crash;
 };
 
-/// Tasks that are distributed to worker processes. Each process performs one task after the other. The system
-/// keeps its state in variables of modules, so two simultaneous tasks need two processes. A task that crashes
-/// ends only its own process.
+/// Tasks that are distributed among worker processes. Each process performs one task after the other. The
+/// system keeps its state in variables of modules, so two simultaneous tasks need two processes. A task that
+/// crashes ends only its own process.
 struct WorkerTasks {
   std::size_t count = 0;  ///< The number of tasks.
   /// Performs a task, counted from 0, in a worker process.

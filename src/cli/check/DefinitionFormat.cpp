@@ -129,7 +129,7 @@ const ElementFormat& ChartFormat() {
   return chart;
 }
 
-/// The system ignores namespace declarations and attributes of other namespaces.
+/// Returns true for namespace declarations and for attributes of other namespaces, which the system ignores.
 bool IsForeign(const std::string& name) { return name == "xmlns" || name.find(':') != std::string::npos; }
 
 bool Contains(const Tokens& names, std::string_view name) {

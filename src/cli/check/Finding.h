@@ -19,11 +19,12 @@ enum class FindingKind {
 
 /// The effect of a finding on a command that writes the workbook.
 enum class Severity {
-  kReports,      ///< It prints the sentence and continues.
-  kKeepsChart,   ///< It keeps the chart's setting instead of the definition's, and reports that.
-  kBlocksEdits,  ///< It prints the sentence; making, changing or deleting charts needs --drop-broken.
-  kRemoves,      ///< It removes the definition of a drawn chart that no longer exists, and reports that.
-  kRefuses       ///< It would lose the definition, and writes nothing without --drop-broken.
+  kReports,      ///< The command prints the sentence and continues.
+  kKeepsChart,   ///< The command keeps the chart's setting, not the definition's, and reports that.
+  kBlocksEdits,  ///< The command prints the sentence. Making, changing or deleting charts needs
+                 ///< --drop-broken.
+  kRemoves,      ///< The command removes and reports a definition whose drawn chart no longer exists.
+  kRefuses       ///< The command would lose the definition. It writes nothing without --drop-broken.
 };
 
 /// A problem in a workbook.

@@ -13,8 +13,8 @@ namespace plotsmith::cli {
 
 /// The effect of a run on the definitions of the charts that it builds.
 enum class DefinitionsAre {
-  kUsed,     ///< It uses them as stored.
-  kRenamed,  ///< It renames columns, and axis titles with them.
+  kUsed,     ///< The run uses them as stored.
+  kRenamed,  ///< The run renames columns, and axis titles with them.
   kEdited    ///< Pages and options change them.
 };
 
@@ -25,8 +25,8 @@ struct RunRefusals {
 };
 
 /// Checks a workbook before, during and after a run that writes it: the rows of definitions before, each
-/// chart when its build begins, and the result. So the user learns everything that the run does to their
-/// work.
+/// chart when its build begins, and the result. This way the user learns of everything that the run does to
+/// their work.
 class RunCheck {
  public:
   /// Checks the rows. `oWorkbook` must be set, and `book` is that workbook. `book` must outlive this object.

@@ -22,8 +22,8 @@ struct ChartToDraw {
 std::vector<ChartToDraw> AllToDraw(const std::vector<DefinedChart>& defined);
 
 /// Returns the charts with the given names, each once. A name is the id or the name of a chart of Plotsmith,
-/// the sheet and shape of any chart, or a chart sheet. Throws CommandError if a name means no chart or
-/// several. `path` is the path of the workbook for messages.
+/// the sheet and shape of any chart, or a chart sheet. Throws CommandError if a name matches no chart or
+/// several charts. `path` is the path of the workbook for messages.
 std::vector<ChartToDraw> NamedChartsToDraw(xlsx::Workbook& book, const std::vector<DefinedChart>& defined,
                                            const std::string& path, const std::vector<std::string>& names);
 

@@ -72,7 +72,7 @@ DrawnCounts WriteCharts(xlsx::Workbook& workbook, const std::string& book,
                         const std::vector<ChartToDraw>& charts, const PicturePlan& plan,
                         const Streams& streams, bool list) {
   PictureNames names(book);
-  std::deque<DrawnChart> drawn;  // before the writer, whose threads work on them
+  std::deque<DrawnChart> drawn;  // before the writer, because its threads work on these
   PictureWriter writer(plan, streams, list);
   for (const ChartToDraw& chart : charts) {
     DrawnChart& one = drawn.emplace_back();

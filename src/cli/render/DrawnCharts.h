@@ -17,7 +17,7 @@ namespace plotsmith::cli {
 /// The results of drawing charts.
 struct DrawnCounts {
   std::size_t drawn = 0;     ///< The number of pictures that were written.
-  bool hasMessages = false;  ///< Whether something isn't drawn, which was reported on `err`.
+  bool hasMessages = false;  ///< Whether `err` reports that something isn't drawn.
 };
 
 /// Draws charts of the workbook at `book` and writes their pictures. Reports what isn't drawn on `err`, one

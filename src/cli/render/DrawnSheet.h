@@ -13,8 +13,8 @@ struct SheetEntry;
 
 namespace plotsmith::cli {
 
-/// Draws a sheet of the workbook at `book`. Returns true if something isn't drawn, which is reported on
-/// `err`. Throws CommandError for a sheet without anything to print.
+/// Draws a sheet of the workbook at `book`. Reports on `err` what isn't drawn, and returns true if there is
+/// anything to report. Throws CommandError for a sheet without anything to print.
 bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::SheetEntry& sheet,
                 render::Paper paper, const PicturePlan& plan, const Streams& streams);
 

@@ -14,7 +14,7 @@ const render::TextMeasure& LoadMeasure(PictureFormat format) {
 std::future<void> LoadMeasureAhead(PictureFormat format) {
   const auto load = [format] {
     try {
-      // Most charts have their texts in this font. To find a font takes longer than to draw a chart.
+      // Most charts have their texts in this font. Finding a font takes longer than drawing a chart.
       LoadMeasure(format).Measure("0", render::Font{"Calibri", 10});
     } catch (const CommandError&) {
       // LoadMeasure will report the error again

@@ -8,8 +8,9 @@
 
 namespace plotsmith::cli {
 
-/// Return what draws in this process. The first call loads it with the list of fonts, and other threads wait
-/// for that. They throw CommandError if it is missing or has another version.
+/// Return the parts that draw in this process. The first call loads a part together with the list of fonts,
+/// and other threads wait until it is loaded. All throw CommandError if the part is missing or has another
+/// version.
 ///@{
 /// Returns the measure of texts for pictures without a painter, such as SVG. It loads faster than the
 /// painter. The two measure the same, except for characters that no font has.
@@ -23,7 +24,7 @@ const render::TextMeasure& LoadMeasure(PictureFormat format);
 /// Begins to load the measure and the list of fonts in a thread. The destructor of the result waits for the
 /// thread. LoadMeasure reports a failure.
 [[nodiscard]] std::future<void> LoadMeasureAhead(PictureFormat format);
-/// Reports on `streams` if no font is installed. Returns true in this case.
+/// Reports on `streams` if no font is installed. Returns true in that case.
 bool ReportMissingFonts(const render::TextMeasure& measure, const Streams& streams);
 
 }  // namespace plotsmith::cli

@@ -51,7 +51,7 @@ auto Load(const char* file, const char* function) {
   const auto refuse = [&](const std::string& why) -> CommandError {
     return CommandError(exit_code::kUsage, "nothing can be drawn: \"" + path.string() + "\" " + why + ".");
   };
-  // Most functions of the graphics libraries are never called, so they are bound when they are.
+  // Most functions of the graphics libraries are never called, so each is bound at its first call.
   void* const module = dlopen(path.c_str(), RTLD_LAZY | RTLD_LOCAL);
   if (module == nullptr) {
     const char* const reason = dlerror();
@@ -78,7 +78,8 @@ const render::TextMeasure& LoadFonts() {
 const render::Painter& LoadPainter() {
   static const render::Painter& painter = []() -> const render::Painter& {
     const auto* const loaded = Load<render::ModulePainter>(render::kPainterFile, render::kPainterFunction);
-    loaded->Measure();  // This reads the list of fonts. Threads that need it at once would each read it.
+    loaded->Measure();  // This reads the list of fonts here, because threads that need it at the same time
+                        // would each read it.
     return *loaded;
   }();
   return painter;

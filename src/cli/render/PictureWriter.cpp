@@ -30,9 +30,8 @@ TaskQueue::Order OrderFor(const PicturePlan& plan) {
   return oneFile ? TaskQueue::Order::kInTurn : TaskQueue::Order::kAny;
 }
 
-/// Writes a file. The space of an existing file is kept and overwritten, because file systems such as ext4
-/// bring a file that was emptied and written anew to the disk when it is closed, which takes longer than
-/// drawing.
+/// Writes a file. An existing file is overwritten in place and not emptied first. If it were emptied, file
+/// systems such as ext4 would write it to the disk when it is closed, which takes longer than drawing.
 void WriteFile(const std::string& name, const std::string& bytes) {
   const fs::path path = runtime::PathOf(name);
   std::error_code ignored, error;
@@ -95,7 +94,7 @@ std::string PictureWriter::BytesOf(const std::vector<render::Drawing>& pages) co
 void PictureWriter::Add(const std::string& name, DrawPages draw) {
   if (tasks_.HasFailed()) Await();
   if (plan_.target != PicturePlan::Target::kFolder) {
-    // A task is copied when it is taken, but not its pages.
+    // Tasks are copied. This task shares its pages, so that the pages aren't.
     tasks_.Add([this, pages = std::make_shared<const std::vector<render::Drawing>>(Drawn(draw))] {
       PaintPages(*pages);
     });

@@ -47,7 +47,7 @@ class PictureWriter {
   std::string BytesOf(const std::vector<render::Drawing>& pages) const;
   std::string PngOf(const render::Drawing& drawing) const;
   void PaintPages(const std::vector<render::Drawing>& pages);
-  /// Waits for the pictures that were taken, and prints their paths. Throws what went wrong first.
+  /// Waits for the pictures that were added, and prints their paths. Throws the first error.
   void Await();
 
   PicturePlan plan_;

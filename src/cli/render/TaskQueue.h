@@ -17,7 +17,7 @@ class TaskQueue {
  public:
   /// A function to run.
   using Task = std::function<void()>;
-  /// Whether tasks may run at the same time. Tasks that run in turn are all run by one thread.
+  /// Whether tasks may run at the same time. Tasks that must run in turn are all run by the same thread.
   enum class Order {
     kAny,     ///< Several tasks at the same time.
     kInTurn,  ///< One task after the other.

@@ -52,7 +52,7 @@ class Hand {
   std::function<void(const std::string& sentence)> Refused = [](const std::string&) {};
 };
 
-/// A simulated user without windows, which works on the model.
+/// A simulated user who acts on the model directly, without windows.
 class ModelHand final : public Hand {
  public:
   void SelectRows(EventQueue& queue, VSFlexGrid& grid, std::vector<std::int32_t> rows) override;

@@ -17,8 +17,8 @@ struct ScriptState {
   const std::deque<std::string>& messages;  ///< The texts of message boxes that no line has expected yet.
 };
 
-/// The source of the lines of a script. A line is requested only when it is executed, so it can depend on the
-/// open form.
+/// The source of the lines of a script. Each line is requested only when it is executed, so its text can
+/// depend on the open form.
 class LineSource {
  public:
   virtual ~LineSource() = default;

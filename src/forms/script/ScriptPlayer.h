@@ -49,7 +49,7 @@ class ScriptPlayer final : public View {
   const Form* Front() const;
   /// The failure, or nothing if no line has failed.
   const std::optional<Failure>& Failed() const { return failure_; }
-  /// The state of the form that was open at the end of the script. It is absent if the run ended before.
+  /// The state of the form that was open at the end of the script. It is absent if the run ended earlier.
   const std::optional<FormState>& LastState() const { return lastState_; }
 
  private:

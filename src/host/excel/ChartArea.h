@@ -8,16 +8,16 @@ class Border;
 class ChartFillFormat;
 class Interior;
 
-/// The area of a whole chart, with its filling and its border.
+/// The area of a whole chart, with its fill and its border.
 class ChartArea {
  public:
   virtual ~ChartArea() = default;
 
   /// The width of the chart's frame in points. Excel subtracts a border.
   virtual double Width() = 0;
-  /// The filling, described by colours and XlPattern.
+  /// The fill, described by colours and XlPattern.
   virtual Ref<excel::Interior> Interior() = 0;
-  /// The same filling, described by MsoPatternType and palette indices.
+  /// The same fill, described by MsoPatternType and palette indices.
   virtual Ref<ChartFillFormat> Fill() = 0;
   /// The border.
   virtual Ref<excel::Border> Border() = 0;

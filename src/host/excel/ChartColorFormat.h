@@ -4,7 +4,7 @@
 
 namespace plotsmith::excel {
 
-/// A colour of a filling on a chart.
+/// A colour of a fill on a chart.
 class ChartColorFormat {
  public:
   virtual ~ChartColorFormat() = default;

@@ -4,7 +4,7 @@
 
 namespace plotsmith::excel {
 
-/// A colour of a shape's filling or line.
+/// A colour of a shape's fill or line.
 class ColorFormat {
  public:
   virtual ~ColorFormat() = default;

@@ -17,8 +17,9 @@ class DataLabels {
   /// Returns the label of a point. Raises error 1004 if the index is out of range.
   virtual Ref<DataLabel> Item(std::int32_t index) = 0;
 
-  /// The contents of the labels (XlDataLabelsType), or xlNone. A combination that has no type counts as
-  /// values if it shows values, then as percentages if it shows percentages, and is Null otherwise.
+  /// The contents of the labels (XlDataLabelsType), or xlNone. A combination that has no type of its own
+  /// counts as values if it shows values, and otherwise as percentages if it shows percentages. For all other
+  /// combinations the result is Null.
   virtual Variant Type() = 0;
   /// Sets the position of the labels (XlDataLabelPosition). Raises error 1004 for a position that the chart
   /// type doesn't have, such as xlLabelPositionBestFit except on pies.

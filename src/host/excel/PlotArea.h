@@ -7,7 +7,7 @@ namespace plotsmith::excel {
 class Border;
 class Interior;
 
-/// The plot area of a chart: the area that title, legend and axis titles leave.
+/// The plot area of a chart: the area that the title, the legend and the axis titles leave free.
 class PlotArea {
  public:
   virtual ~PlotArea() = default;
@@ -25,7 +25,7 @@ class PlotArea {
   /// chart is cut off. Raises error 1004 for values of 0 or less.
   virtual void SetWidth(double points) = 0;
 
-  /// The filling behind the series.
+  /// The fill behind the series.
   virtual Ref<excel::Interior> Interior() = 0;
   /// The border of the area.
   virtual Ref<excel::Border> Border() = 0;

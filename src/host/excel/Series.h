@@ -52,12 +52,12 @@ class Series {
   /// The labels, or Nothing if there are none.
   virtual Ref<excel::DataLabels> DataLabels() = 0;
 
-  /// The filling of the columns, areas, slices or bubbles.
+  /// The fill of the columns, areas, slices or bubbles.
   virtual Ref<excel::Interior> Interior() = 0;
   /// The outline of the columns, areas, slices or bubbles, or the line of a line series.
   virtual Ref<excel::Border> Border() = 0;
 
-  /// Sets the colour of the outline or the filling of the markers. Raises error 1004 for a series without
+  /// Sets the colour of the outline or the fill of the markers. Raises error 1004 for a series without
   /// markers, such as a column series.
   ///@{
   virtual void SetMarkerForegroundColor(std::int32_t color) = 0;

@@ -57,8 +57,8 @@ class Shape {
   /// for shapes without such a form, such as pictures.
   virtual void SetAutoShapeType(std::int32_t type) = 0;
 
-  /// The filling and the line. Setting a property of them raises error 1004 for a chart frame, which gets its
-  /// look from its chart.
+  /// The fill and the line. Setting one of their properties raises error 1004 for a chart frame, which gets
+  /// its look from its chart.
   ///@{
   virtual Ref<FillFormat> Fill() = 0;
   virtual Ref<LineFormat> Line() = 0;

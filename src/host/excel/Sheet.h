@@ -21,7 +21,8 @@ class Sheet {
   virtual void SetVisible(std::int32_t value) = 0;
   ///@}
 
-  /// Makes this the active sheet, which a saved workbook opens on. Raises error 1004 for a hidden sheet.
+  /// Makes this the active sheet, which is also the sheet that is shown when the saved workbook is opened.
+  /// Raises error 1004 for a hidden sheet.
   virtual void Activate() = 0;
   /// Deletes the sheet and its contents. Application::SetDisplayAlerts decides whether the user is asked
   /// first. A host may raise error 1004 for sheets that the system didn't make.

@@ -28,9 +28,10 @@ class Worksheet : public Sheet {
     return row + 1;
   }
   /// Returns a number that changes with each change to the cells of the sheet, and that no other sheet has.
-  /// Use it to see that cells are as they were read. It is 0 if the host can't tell.
+  /// Use it to find out whether cells have changed since they were read. The result is 0 if the host can't
+  /// tell.
   virtual std::uint64_t ContentsVersion() { return 0; }
-  /// Stores a value as if it was typed: a text that looks like a number becomes a number, a leading
+  /// Stores a value as if it were typed: a text that looks like a number becomes a number, a leading
   /// apostrophe marks a text, and Empty clears the cell. The format of the cell doesn't change. Raises error
   /// 1004 for values that a cell can't contain, such as a formula in a host without formulas, and for sheets
   /// that can't be written (see Range).

@@ -45,7 +45,7 @@ class Canvas {
   void FillPrism(const std::vector<Point>& aFace, Point oDepth, Rgb oFill);
   /// Draws a prism with a rectangular face.
   void FillBox(const Rectangle& oFace, Point oDepth, Rgb oFill);
-  /// Draws a ball with the same light.
+  /// Draws a ball, shaded by the same light as a prism.
   void FillBall(Point oCenter, double dRadius, Rgb oFill);
 
   /// The picture so far.

@@ -26,7 +26,7 @@ struct Plot {
   /// Returns the position of a share of the category axis and a share of the value axis, each from 0 to 1, on
   /// the front.
   Point At(double dCategory, double dValue) const;
-  /// Returns the rectangle between two such positions.
+  /// Returns the rectangle between two positions, each given as in At.
   Rectangle Between(double dCategory1, double dValue1, double dCategory2, double dValue2) const;
 };
 
@@ -51,7 +51,7 @@ void DrawCategoryLabel(Canvas& oCanvas, const Plot& oPlot, double dCategory);
 void DrawValueLabel(Canvas& oCanvas, const Plot& oPlot, double dValue);
 ///@}
 
-/// Draws a legend: colour samples of the first series with marks in place of texts, below each other,
+/// Draws a legend: colour samples of the first series with marks in place of texts, one below the other,
 /// vertically centred in the area.
 void DrawLegend(Canvas& oCanvas, const Rectangle& oArea, std::size_t lSeries);
 /// Draws a legend on a small card.

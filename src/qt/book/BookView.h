@@ -39,8 +39,8 @@ class BookView : public QWidget {
   void Update();
   /// Shows the workbook's active sheet.
   void ShowActive();
-  /// Shows the sheet with the chart of an alternative text, and scrolls to the chart. Returns false if no
-  /// sheet with a tab has it.
+  /// Shows the sheet with the chart that has this alternative text, and scrolls to the chart. Returns false
+  /// if no sheet with a tab has such a chart.
   bool Reveal(const std::string& alternativeText);
 
   /// The tabs of the sheets.
@@ -49,7 +49,7 @@ class BookView : public QWidget {
   SheetView* ShownSheet();
 
  protected:
-  /// Turn to another sheet by Ctrl+Page Up and Ctrl+Page Down, and adapt the tabs to a change of colours.
+  /// Switch to another sheet with Ctrl+Page Up and Ctrl+Page Down, and adapt the tabs to a change of colours.
   ///@{
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;

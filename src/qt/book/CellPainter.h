@@ -20,9 +20,9 @@ class CellPainter {
 
   /// Returns the Normal font of the workbook.
   QFont NormalFont() const;
-  /// Returns the background colour of a cell: its filling, or the colour of the window.
+  /// Returns the background colour of a cell: the colour of its fill, or the colour of the window.
   QColor Background(const ShownCell& cell);
-  /// Returns true if the cell has a filling.
+  /// Returns true if the cell has a fill.
   bool HasFilling(const ShownCell& cell) { return source_.LookOf(cell.style).fillColor.has_value(); }
 
   /// Returns the horizontal alignment of a cell's text: Qt::AlignLeft, AlignRight or AlignHCenter.
@@ -31,8 +31,8 @@ class CellPainter {
   bool MaySpread(const ShownCell& cell);
   /// Returns the width of the text with its margins, in pixels.
   int WidthOf(const ShownCell& cell);
-  /// Returns the text that fits into a cell of this width. A number that doesn't fit has fewer decimals or is
-  /// "####".
+  /// Returns the text that fits into a cell of this width. A number that doesn't fit is shortened to fewer
+  /// decimals, or replaced by "####".
   QString FittedText(const ShownCell& cell, int width);
   /// Paints the text of a cell. `area` is the cell, including empty adjacent cells under a long text.
   void Paint(QPainter& painter, const ShownCell& cell, const QRect& area);

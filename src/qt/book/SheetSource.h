@@ -46,7 +46,7 @@ struct ShownFrame {
   std::function<excel::Ref<excel::Chart>()> chart;
 };
 
-/// Returns the index of the chart with an alternative text, or the number of frames if there is none.
+/// Returns the index of the chart with this alternative text, or the number of frames if there is none.
 std::size_t FindChart(const std::vector<ShownFrame>& frames, const std::string& alternativeText);
 
 /// Reads a worksheet of the embedded host for a window. Each function asks the host for the current state,
@@ -78,7 +78,7 @@ class SheetSource {
 
   /// Clears the cache of cell styles, for example after a change of the palette.
   void DiscardLooks() { looks_.clear(); }
-  /// The number of cells that were read from the host, which measures the cost of scrolling.
+  /// The number of cells that were read from the host. It measures the cost of scrolling.
   std::uint64_t CellsRead() const { return cellsRead_; }
 
  private:

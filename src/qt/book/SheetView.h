@@ -20,8 +20,9 @@ namespace plotsmith::qtbook {
 /// A window that shows a worksheet, read only: cells, shapes, and row and column headings. It reads the
 /// visible cells from the host and keeps none, so the size of the sheet doesn't matter.
 ///
-/// The host's sheet gives the initial top left cell, the frozen rows and columns, and the active cell. Then
-/// the user scrolls and moves the active cell of this window. Neither changes the workbook.
+/// The sheet in the host determines the initial top left cell, the frozen rows and columns, and the initial
+/// active cell. The user can then scroll, and move the active cell of this window, without changing the
+/// workbook.
 class SheetView : public QAbstractScrollArea, public SheetPage {
  public:
   /// Makes a view of a worksheet. `book` must outlive it.
@@ -50,7 +51,7 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   ///@}
   /// The shapes on the sheet from back to front.
   const std::vector<ShownFrame>& Frames() const { return frames_; }
-  /// Scrolls to the chart with the alternative text. Returns false if the sheet doesn't have it.
+  /// Scrolls to the chart with this alternative text. Returns false if the sheet has no such chart.
   bool Reveal(const std::string& alternativeText);
 
   /// The zoom factor, from 0.5 to 2. 1 is 96 dots per inch.

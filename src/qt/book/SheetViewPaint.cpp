@@ -106,7 +106,7 @@ void SheetView::PaintGridLines(QPainter& painter, const Pane& pane, const PaneCe
   }
 }
 
-/// Paints the fillings, which cover the gridlines around their cells.
+/// Paints the fills, which cover the gridlines around their cells.
 void SheetView::PaintFillings(QPainter& painter, const Pane& pane, const PaneCells& shown,
                               CellPainter& cellPainter) {
   for (std::size_t row = 0; row < shown.rows.size(); ++row) {
@@ -142,7 +142,7 @@ void SheetView::PaintText(QPainter& painter, const Pane& pane, const PaneCells& 
   const int half = side == Qt::AlignHCenter ? (missing + 1) / 2 : missing;
   int toRight = side == Qt::AlignRight ? 0 : half, toLeft = side == Qt::AlignLeft ? 0 : half;
   const auto cover = [&](std::size_t other, int line) {
-    // Remove the gridline between both cells, unless the other cell's filling has covered it.
+    // Remove the gridline between both cells, unless the other cell's fill has covered it.
     if (view_.gridLines)
       painter.fillRect(line, area.top(), 1, area.height() - 1, cellPainter.Background(shown.At(row, other)));
   };

@@ -26,7 +26,8 @@ class FormWindow final : public QWidget {
   forms::Form& Model() const { return form_; }
   /// Shows the changes of the form.
   void Update();
-  /// Called when the window is the front window again. Actions on it were discarded meanwhile.
+  /// Activates the window when it is the front window again. Discards the actions on it that were not
+  /// performed yet.
   void BecomeFront();
   /// Returns the widget of a control, or null for an invisible control.
   QWidget* WidgetOf(const forms::Control& control) const;
@@ -54,7 +55,7 @@ class FormWindow final : public QWidget {
   forms::SecondPress& presses_;
   QScrollArea* scroll_;
   std::vector<std::unique_ptr<ControlView>> views_;
-  bool movesFocus_ = false;  ///< Whether the model moves the focus at present.
+  bool movesFocus_ = false;  ///< Whether the model is moving the focus now.
 };
 
 }  // namespace plotsmith::qt

@@ -20,7 +20,7 @@ class QtView final : public forms::View {
 
   /// Sets the window that the forms stay in front of; null for none.
   void SetOwner(QWidget* owner) { owner_ = owner; }
-  /// Called each time the forms were updated, for example to update a window beside them.
+  /// Called after each update of the forms, for example to update a window beside them.
   std::function<void()> Shown = [] {};
 
   /// Returns true if a form waits for the user, so that the system isn't busy.

@@ -23,8 +23,8 @@ class WizardDesktop final : public cli::ConsoleDesktop {
                       std::string_view title) override;
   /// Shows a topic of the built-in help. `file` isn't used.
   void ShowHelp(std::intptr_t owner, const std::string& file, std::int32_t topic) override;
-  /// Returns the time. The system calls this during its work wherever it could yield, so windows are updated
-  /// here from time to time.
+  /// Returns the time. The system calls this during its work wherever it can yield, so this also updates the
+  /// windows from time to time.
   double Timer() override;
   void SetMousePointer(std::int32_t pointer) override;
 

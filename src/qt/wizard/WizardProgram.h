@@ -55,7 +55,8 @@ class WizardProgram {
   bool MayReplace(const QString& file);
   /// Shows the result of a run, and asks whether to run again.
   Next AskWhatIsNext(const QString& outcome);
-  /// Saves to the target and asks what follows. Returns nothing if saving failed, which the user was told.
+  /// Saves to the target and asks what follows. Returns nothing if saving failed; the user has then been told
+  /// so.
   std::optional<Next> Save();
   /// Returns the file that Save writes.
   QString Target() const;

@@ -52,8 +52,8 @@ bool IsBusy(HRESULT result) {
   return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER || result == kSuspended;
 }
 
-/// Waits between attempts at a call, for two seconds in all. When these are used up, calls fail at once until
-/// the server accepts one. Otherwise a run of a thousand calls could wait for half an hour.
+/// Waits between attempts at a call, for two seconds in all. After that, calls to a busy server fail at once
+/// until the server accepts one. Otherwise a run of a thousand calls could wait for half an hour.
 class Waiting {
  public:
   /// Returns false if no time is left.
@@ -78,7 +78,8 @@ class Waiting {
 /// Application.Run takes the most arguments: the macro's name and thirty arguments of the macro.
 constexpr std::size_t kMostArguments = 31;
 
-/// The arguments of one call in the order of Automation, which is the last one first. They are not owned.
+/// The arguments of one call in Automation's order, the last one first. The VARIANTs still belong to the
+/// caller.
 struct Parameters {
   explicit Parameters(std::span<const OwnedVariant> arguments, Kind kind) {
     if (arguments.size() > kMostArguments) throw RuntimeError(runtime::error::kArgumentCount);

@@ -9,14 +9,15 @@
 #include "windows/com/Windows.h"
 
 /// @file
-/// Calls to members of Automation objects, which are bound by name at their first call.
+/// Late-bound calls to members of Automation objects. The number of a member is looked up by its name at the
+/// first call.
 namespace plotsmith::com {
 
-/// A member of a class, by name. It keeps the number (DISPID) that the class gives to the member, for all
-/// objects of the class. Make one for each member of each class, and keep it.
+/// A member of a class, given by its name. The object stores the member's number (DISPID), which all objects
+/// of the class share. Make one Member for each member of each class, and reuse it.
 class Member {
  public:
-  /// `name` must outlive the member.
+  /// Makes a member with this name. `name` must outlive the member.
   explicit constexpr Member(const wchar_t* name) : name_(name) {}
   Member(const Member&) = delete;
   Member& operator=(const Member&) = delete;
@@ -38,27 +39,28 @@ enum class Kind {
   kFind,  ///< a method that has no side effect
 };
 
-/// Says whether a call that the server refuses because it is busy is repeated.
+/// Whether a call is repeated if the server refuses it because it is busy.
 enum class WhenBusy { kWait, kFail };
 
-/// Calls a member. The last argument of kPut is the new value. A failure is raised as a RuntimeError with the
-/// server's number and text; a null object is error 91.
+/// Calls a member. The last argument of kPut is the new value. If the call fails, raises a RuntimeError with
+/// the server's number and text. Raises error 91 for a null object.
 OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
                   WhenBusy whenBusy = WhenBusy::kWait);
 
-/// Reads the default member of an object, as Visual Basic does where it needs a value. It raises the errors
-/// of Call.
+/// Reads the default member of an object, as Visual Basic does where it needs a value. Raises the same errors
+/// as Call.
 OwnedVariant CallDefault(IDispatch* object);
 
-/// Returns true if an object has a member of this name. The member isn't called.
+/// Returns true if an object has a member with this name. Doesn't call the member.
 bool HasMember(IDispatch* object, const wchar_t* name);
 
-/// Number of calls so far, including repeated ones.
+/// The number of calls so far, including repeated ones.
 std::uint64_t CallCount();
 
-/// A number that grows with each call that may have changed something: a property that was put, or a method.
+/// A counter that increases with each call that may have changed something: setting a property, or calling a
+/// method.
 std::uint64_t ChangeCount();
-/// Increases ChangeCount. Call it after other code had the chance to change something.
+/// Increases ChangeCount. Call it after other code has had the chance to change something.
 void NoteChange();
 
 }  // namespace plotsmith::com

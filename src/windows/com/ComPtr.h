@@ -12,7 +12,7 @@ namespace plotsmith::com {
 template <class T>
 class ComPtr {
  public:
-  /// Holds no object.
+  /// Makes an empty pointer.
   /// @{
   ComPtr() = default;
   ComPtr(std::nullptr_t) {}
@@ -47,12 +47,12 @@ class ComPtr {
     if (object != nullptr && !IsAbandoned()) object->Release();
   }
 
-  /// Returns the object, or null. The reference stays here.
+  /// Returns the object, or null. This pointer keeps its reference.
   T* Get() const { return object_; }
   /// Gives access to the members of the object, which must not be null.
   T* operator->() const { return object_; }
-  /// Returns the place where a function stores the reference that it returns. A reference that is already
-  /// held is released first.
+  /// Returns the address where a function stores the reference that it returns. Releases the current
+  /// reference first.
   T** Put() {
     Reset();
     return &object_;
@@ -60,7 +60,7 @@ class ComPtr {
   /// Returns false if no object is held.
   explicit operator bool() const { return object_ != nullptr; }
 
-  /// Returns another interface of the object; an empty pointer if the object doesn't implement it.
+  /// Returns another interface of the object, or an empty pointer if the object doesn't implement it.
   template <class U>
   ComPtr<U> As(REFIID id = __uuidof(U)) const {
     ComPtr<U> other;

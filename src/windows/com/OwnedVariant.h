@@ -10,7 +10,7 @@ namespace plotsmith::com {
 /// A VARIANT that frees its content.
 class OwnedVariant {
  public:
-  /// Creates VT_EMPTY.
+  /// Makes a VARIANT of type VT_EMPTY.
   OwnedVariant() { VariantInit(&value_); }
   /// Takes over the content of `value`.
   explicit OwnedVariant(const VARIANT& value) : value_(value) {}
@@ -28,9 +28,9 @@ class OwnedVariant {
     if (!IsAbandoned()) VariantClear(&value_);
   }
 
-  /// Returns the value, which stays here.
+  /// Returns the value. This object still owns it.
   const VARIANT& Get() const { return value_; }
-  /// Returns the place where a function stores its result. The old content is freed first.
+  /// Returns the address where a function stores its result. Frees the old content first.
   VARIANT* Put() {
     VariantClear(&value_);
     return &value_;

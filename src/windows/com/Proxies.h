@@ -4,8 +4,8 @@
 
 namespace plotsmith::com {
 
-/// Number of proxies of the host's objects. Each holds one reference to the host, which can't end before it
-/// is released.
+/// The number of proxies of the host's objects. Each holds one reference to the host, and the host can't end
+/// before all are released.
 std::int32_t LiveProxies();
 
 /// Counts as one live proxy as long as it exists.

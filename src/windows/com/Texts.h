@@ -9,12 +9,12 @@
 #include "windows/com/Windows.h"
 
 /// @file
-/// Conversions of texts between UTF-8, which the system uses, and UTF-16 of Windows. Unpaired surrogates
-/// survive both ways.
+/// Conversions of texts between UTF-8, which the system uses, and the UTF-16 of Windows. Unpaired surrogates
+/// are kept in both directions.
 namespace plotsmith::com {
 
-/// Owns a BSTR, or none. No function here takes a bare BSTR: that type is a pointer to UTF-16 units, and any
-/// such pointer would be accepted, although only a real BSTR has its length in front of the units.
+/// Owns a BSTR, or none. No function here takes a bare BSTR. That type is only a pointer to UTF-16 units, so
+/// the compiler would accept any such pointer, but only a real BSTR has its length in front of the units.
 class OwnedBstr {
  public:
   OwnedBstr() = default;
@@ -38,7 +38,7 @@ class OwnedBstr {
     owned.text_ = text;
     return owned;
   }
-  /// Returns the place where a function of Automation stores its result. Call it once.
+  /// Returns the address where a function of Automation stores its result. Call this only once.
   BSTR* Put() { return &text_; }
   /// Returns the UTF-16 units, which may include zeros.
   std::wstring_view View() const {
@@ -49,15 +49,15 @@ class OwnedBstr {
   BSTR text_ = nullptr;
 };
 
-/// Converts `length` UTF-16 units.
+/// Converts `length` UTF-16 units to UTF-8.
 std::string Utf8(const OLECHAR* text, std::size_t length);
-/// Converts a BSTR.
+/// Converts a BSTR to UTF-8.
 std::string Utf8(const OwnedBstr& text);
-/// Converts a VARIANT of type VT_BSTR.
+/// Converts a VARIANT of type VT_BSTR to UTF-8.
 std::string TextOf(const VARIANT& value);
-/// Returns a text with a terminating zero, for functions of Windows.
+/// Converts a text to UTF-16 with a terminating zero, for functions of Windows.
 std::wstring Wide(std::string_view text);
-/// Returns a new BSTR, which the caller frees. Raises error 7 if memory is short.
+/// Returns a new BSTR, which the caller frees. Raises error 7 if there isn't enough memory.
 BSTR NewBstr(std::string_view text);
 
 }  // namespace plotsmith::com

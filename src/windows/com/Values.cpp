@@ -65,7 +65,7 @@ Variant DefaultOf(const VARIANT& object) {
   return Plain(answer.Get());
 }
 
-/// Converts a value that is not by reference.
+/// Converts a value that isn't a reference.
 Variant Plain(const VARIANT& value) {
   switch (V_VT(&value)) {
     case VT_EMPTY:
@@ -116,7 +116,7 @@ Variant Plain(const VARIANT& value) {
   }
 }
 
-/// Returns the array in a value, also if it is by reference; null if there is none.
+/// Returns the array in a value, or null if there is none. The value may be a reference.
 SAFEARRAY* ArrayIn(const VARIANT& value) {
   if (V_VT(&value) == (VT_BYREF | VT_VARIANT)) return ArrayIn(*V_VARIANTREF(&value));
   if ((V_VT(&value) & VT_ARRAY) == 0) return nullptr;

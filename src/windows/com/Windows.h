@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The headers of Windows in the order that they need, without the parts that Plotsmith doesn't use.
+/// Includes the headers of Windows in the required order, without the parts that Plotsmith doesn't use.
 // clang-format off
 #include <windows.h>
 #include <objbase.h>

@@ -17,11 +17,11 @@ class WindowsDesktop final : public desktop::Desktop {
   /// Shows the topic in HTML Help. A message box reports a missing file or a missing HTML Help.
   void ShowHelp(std::intptr_t owner, const std::string& file, std::int32_t topic) override;
   double Timer() override;
-  /// Sets the pointer until the mouse next moves over a window that sets its own pointer.
+  /// Sets the pointer. It lasts until the mouse moves over a window that sets its own pointer.
   void SetMousePointer(std::int32_t pointer) override;
   std::int32_t UserDefaultLCID() override;
 
-  /// Handle of the host's window, which owns message boxes while no page is open; 0 for none.
+  /// The handle of the host's window, which owns message boxes while no page is open; 0 for none.
   /// @{
   std::intptr_t HostWindow() const { return hostWindow_; }
   void SetHostWindow(std::intptr_t window) { hostWindow_ = window; }

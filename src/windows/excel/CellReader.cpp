@@ -47,8 +47,8 @@ com::OwnedVariant ValueOf(IDispatch* range) {
   return com::Call(range, value, com::Kind::kGet, {});
 }
 
-/// Returns the English text of an error value. The text that the cell shows is in the user's language; TextAt
-/// reads that one.
+/// Returns the English text of an error value. The cell shows the text in the user's language, which TextAt
+/// returns.
 std::string_view ErrorText(int number) {
   switch (number) {
     case 2000:
@@ -160,8 +160,9 @@ bool CellReader::IsPlain(const Stretch& stretch, std::int32_t column) {
   }
 }
 
-// Each window of a workbook has this setting for each sheet, and older versions return that of the active
-// sheet only. So the reader asks a cell, the first one whose formula computes a text.
+// Each window of a workbook has this setting for each sheet, but older versions return only the setting of
+// the active sheet. Therefore the reader checks the displayed text of the first cell whose formula computes a
+// text.
 bool CellReader::ShowsFormulas(const Stretch& stretch, std::int32_t column, IDispatch* cells) {
   static com::Member hasFormula(L"HasFormula"), formula(L"Formula"), text(L"Text");
   if (showsFormulas_) return *showsFormulas_;

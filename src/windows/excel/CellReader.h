@@ -13,19 +13,19 @@
 
 namespace plotsmith::proxies {
 
-/// Reads cells of one sheet with few calls. One call fetches a stretch of a column, which then provides its
-/// cells. A stretch that continues another one is twice as long. A stretch is dropped after any call that may
-/// have changed something.
+/// Reads cells of one sheet with few calls. One call fetches a stretch of a column, and its cells are then
+/// read from the stretch. A stretch that continues the previous one is twice as long. A stretch is dropped
+/// after any call that may have changed something.
 ///
-/// Values are those of Range.Value, which distinguishes dates from numbers. It returns a number in a currency
-/// format as a Currency with four decimals, as in a macro.
+/// Values are those of Range.Value, which distinguishes dates from numbers. For a number in a currency
+/// format, Range.Value returns a Currency with four decimals, as in a macro.
 class CellReader {
  public:
-  /// Sets the maximum number of rows of a stretch; the default is 16384. With 1, each cell is read by itself,
-  /// which tests compare with.
+  /// Sets the maximum number of rows of a stretch; the default is 16384. With 1, each cell is read by itself;
+  /// tests use this for comparison.
   static void SetLongestStretch(std::int32_t rows);
 
-  /// `sheet` must outlive the reader.
+  /// Makes a reader for a sheet, which must outlive it.
   explicit CellReader(IDispatch* sheet) : sheet_(sheet) {}
 
   /// Returns the value of a cell. Its text is valid as long as the reader lives.
@@ -33,7 +33,7 @@ class CellReader {
   /// Returns the text that a cell shows. The view is valid as long as the reader lives, or refers to
   /// `scratch`.
   std::string_view TextAt(std::int32_t row, std::int32_t column, std::string& scratch);
-  /// Returns the next row below that may have content in the column; 0 if there is none.
+  /// Returns the next row below `row` that may have content in the column, or 0 if there is none.
   std::int32_t NextRow(std::int32_t row, std::int32_t column);
 
  private:
@@ -54,11 +54,11 @@ class CellReader {
 
   /// Drops the fetched cells if they may have changed.
   void Refresh();
-  /// Returns the stretch with a cell. It is fetched if the cell follows the one that was read last in its
-  /// column. Null means that the cell has to be read by itself.
+  /// Returns the stretch that contains a cell, and fetches it if the cell follows the last one that was read
+  /// in its column. Returns null if the cell must be read by itself.
   Stretch* StretchWith(std::int32_t row, std::int32_t column);
-  /// Returns the values of cells from a row on, fewer than `size` at the end of the used range; none if the
-  /// cells can't be read together.
+  /// Returns the values of `size` cells from a row on, or of fewer cells at the end of the used range. The
+  /// list is empty if the cells can't be read together.
   std::vector<excel::CellValue> Fetch(std::int32_t row, std::int32_t column, std::int32_t size);
   /// Returns true if Excel shows all texts of a stretch completely, however wide their column is: the number
   /// format of the cells is General, and no cell shows its formula instead.

@@ -20,8 +20,8 @@ namespace plotsmith::proxies {
 using excel::Ref;
 
 /// Returns a new proxy of an object; Nothing for null. The proxy holds one reference to the object until its
-/// last Ref is gone. An object that is returned twice gets two proxies: Excel itself creates new objects of
-/// many kinds for each call, so a comparison of objects would say nothing.
+/// last Ref is gone. An object that is returned twice gets two proxies: for many kinds, Excel itself creates
+/// a new object for each call, so comparing objects would mean nothing.
 template <class T>
 Ref<T> Wrap(com::ComPtr<IDispatch> object);
 #define CLASS_NAME(Class) \
@@ -37,7 +37,7 @@ class ProxyObject {
   explicit ProxyObject(com::ComPtr<IDispatch> object) : object_(std::move(object)) {}
   virtual ~ProxyObject() = default;
 
-  /// The object. The reference stays here.
+  /// Returns the object. The proxy keeps its reference.
   IDispatch* Object() const { return object_.Get(); }
 
  private:
@@ -45,7 +45,7 @@ class ProxyObject {
   com::CountedProxy counted_;
 };
 
-/// Converts a value to Excel's type.
+/// Converts a value to a VARIANT for Excel.
 /// @{
 inline com::OwnedVariant Passed(const excel::Variant& value) { return com::ToVariant(value); }
 inline com::OwnedVariant Passed(com::OwnedVariant value) { return value; }
@@ -61,7 +61,7 @@ com::OwnedVariant Passed(const Ref<T>& object) {
 
 template <class T>
 struct IsRef : std::false_type {};
-/// True for a Ref.
+/// True if the type is a Ref.
 template <class T>
 struct IsRef<Ref<T>> : std::true_type {
   /// The class of the object that it refers to.

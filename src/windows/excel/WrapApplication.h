@@ -5,8 +5,9 @@
 
 namespace plotsmith::excel {
 
-/// Returns an Application of the port that passes each call on to `application`, and holds a reference to it
-/// as long as it exists. Null gives Nothing. Use it on the thread on which the object lives.
+/// Returns an Application of the port that passes each call on to `application`, and that holds a reference
+/// to `application` until it is destroyed. Null gives Nothing. Use the result only on the thread of
+/// `application`.
 Ref<Application> WrapApplication(IDispatch* application);
 
 }  // namespace plotsmith::excel

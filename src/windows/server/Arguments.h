@@ -12,7 +12,7 @@ namespace plotsmith::windows {
 /// Thrown for an argument with which a call can't be made.
 struct ArgumentError {
   HRESULT code;   ///< a result such as DISP_E_TYPEMISMATCH or DISP_E_BADPARAMCOUNT
-  UINT position;  ///< index in the array of arguments as it was sent; 0 if the fault concerns all of them
+  UINT position;  ///< index in the array of arguments as it was sent; 0 if the error concerns all of them
 };
 
 /// The arguments of a late-bound call, by the position of the parameter, from 0. Clients send the same
@@ -21,15 +21,15 @@ struct ArgumentError {
 /// another type throws an ArgumentError.
 class Arguments {
  public:
-  /// `sent` is kept by reference. Throws an ArgumentError unless each of the `parameters` has exactly one
-  /// argument.
+  /// Assigns the arguments in `sent`, which must outlive this object, to as many parameters as `parameters`
+  /// says. Throws an ArgumentError unless each parameter has exactly one argument.
   Arguments(const DISPPARAMS& sent, std::size_t parameters);
 
-  /// Returns the object; an empty pointer for Nothing.
+  /// Returns the object, or an empty pointer for Nothing.
   com::ComPtr<IDispatch> Object(std::size_t parameter) const;
   /// Returns the text, or the conversion of another value to a text, for example "1" for a number.
   std::string Text(std::size_t parameter) const;
-  /// Returns the texts of an array of one dimension; none if the array isn't allocated.
+  /// Returns the texts of a one-dimensional array. The list is empty if the array isn't allocated.
   std::vector<std::string> Texts(std::size_t parameter) const;
 
  private:

@@ -43,7 +43,7 @@ void Refresh(IDispatch* application, const std::string& name, const std::string&
       [&](const Host& host) { CPlotsmithController().RefreshPlotsmithData(host, name, helpFile); });
 }
 
-/// The operation takes the table's name by reference and doesn't change it.
+/// Refreshes the charts of a table. The operation takes the table's name by reference, but doesn't change it.
 void RefreshTable(IDispatch* application, std::string table) {
   Run("CPlotsmithController.RefreshChartsForTable", application,
       [&](const Host& host) { CPlotsmithController().RefreshChartsForTable(host, table); });
@@ -56,7 +56,7 @@ void RenameColumns(IDispatch* application, const std::string& table, std::vector
   });
 }
 
-/// All arguments are read before the operation begins.
+/// Reads the arguments and runs an operation. All arguments are read before the operation begins.
 void InvokeOperation(DISPID operation, const DISPPARAMS& sent) {
   switch (operation) {
     case kRunPlotsmith:
@@ -107,7 +107,7 @@ VARIANT AsArgument(SAFEARRAY** texts) {
 }
 ///@}
 
-/// The arguments are in reverse order, as in a late-bound call.
+/// Runs an operation for an early-bound client. The arguments are in reverse order, as in a late-bound call.
 HRESULT InvokeEarlyBound(DISPID operation, std::initializer_list<VARIANT> reversed) noexcept {
   try {
     std::vector<VARIANT> arguments(reversed);

@@ -8,9 +8,9 @@
 
 namespace plotsmith::windows {
 
-/// The one class that clients can create. It holds no state: all objects do the same. Its interface is
-/// IPlotsmithController of the type library. The operations never fail: every error ends in a message box.
-/// Invalid arguments are refused before an operation begins.
+/// The one class that clients can create. It has no state, so all objects behave in the same way. Its
+/// interface is IPlotsmithController of the type library. The operations never fail: every error ends in a
+/// message box. Invalid arguments are refused before an operation begins.
 class Controller final : public IPlotsmithController, public IProvideClassInfo {
  public:
   /// The members of IUnknown. The last Release deletes the object.

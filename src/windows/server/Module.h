@@ -9,7 +9,7 @@ namespace plotsmith::windows {
 
 /// The handle of the DLL.
 HINSTANCE ModuleHandle();
-/// DllMain calls this when the DLL is loaded.
+/// Sets the handle of the DLL. DllMain calls this when the DLL is loaded.
 void SetModuleHandle(HINSTANCE module);
 /// The full path of the DLL.
 std::wstring ModulePath();

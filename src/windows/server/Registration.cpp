@@ -119,8 +119,8 @@ class Classes {
     RegDeleteKeyValueW(root_, PathOf(entry.key).c_str(), entry.name.c_str());
   }
 
-  /// Returns true if the key exists. `view` is KEY_WOW64_32KEY or KEY_WOW64_64KEY for the keys that programs
-  /// of those bits see, and 0 for our own.
+  /// Returns true if the key exists. `view` is KEY_WOW64_32KEY or KEY_WOW64_64KEY for the keys that 32-bit or
+  /// 64-bit programs see, and 0 for the keys of this DLL.
   bool Has(const std::wstring& key, REGSAM view = 0) const {
     HKEY opened = nullptr;
     if (RegOpenKeyExW(root_, PathOf(key).c_str(), 0, KEY_READ | view, &opened) != ERROR_SUCCESS) return false;
@@ -217,7 +217,7 @@ HRESULT UnregisterServer(RegistrationScope scope) {
   remove(ClassKey());
   remove(InterfaceKey());
   remove(PlatformKey(kPlatform));
-  // The DLLs of 32 and 64 bits share the names and the rest of the type library.
+  // The 32-bit and the 64-bit DLL share the names and the rest of the type library.
   if (!classes.Has(ClassKey(), kOtherView)) {
     remove(kVersionedName);
     remove(kName);

@@ -14,8 +14,8 @@ enum class RegistrationScope {
 /// and the interface. After an error the registry is as it was before, including an earlier registration.
 HRESULT RegisterServer(RegistrationScope scope);
 
-/// Removes these entries. The entries of the other kind of DLL (32 or 64 bits) stay; the entries that both
-/// share are removed with the last of them.
+/// Removes the entries that RegisterServer writes. The entries of the other DLL (32-bit or 64-bit) are kept.
+/// Entries that both DLLs share are removed with the second of them.
 HRESULT UnregisterServer(RegistrationScope scope);
 
 }  // namespace plotsmith::windows

@@ -19,10 +19,10 @@ class ActivationContext {
   bool isActive_ = false;
 };
 
-/// The library of the common controls in the version that the first ActivationContext has selected.
+/// Returns the library of the common controls, in the version that the first ActivationContext has selected.
 HMODULE CommonControls();
 
-/// The module that contains this code: the DLL, or a program that is linked with it.
+/// Returns the module that contains this code: the DLL, or a program that is linked with it.
 HINSTANCE OwnModule();
 
 }  // namespace plotsmith::windows

@@ -9,7 +9,7 @@ namespace plotsmith::windows {
 /// A button. The button that Enter presses is drawn as the default button.
 class CommandButtonView final : public ControlView {
  public:
-  /// `presses` is shared by all windows and outlives them.
+  /// Makes the window for `model`. `presses` is shared by all windows and must outlive them.
   CommandButtonView(forms::CommandButton& model, const Stage& stage, forms::SecondPress& presses);
 
   forms::Size LeastSize() const override;

@@ -41,8 +41,7 @@ ControlView* ControlView::Of(HWND window) {
   return static_cast<ControlView*>(SubclassData(window, Procedure));
 }
 
-// No exception may leave a window procedure. The only possible one is that memory runs out; the message is
-// then lost.
+// No exception may leave a window procedure. Only a lack of memory can cause one; the message is then lost.
 LRESULT CALLBACK ControlView::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                         DWORD_PTR data) {
   auto* const view = reinterpret_cast<ControlView*>(data);
@@ -116,7 +115,7 @@ void ControlView::UseFonts(Fonts& fonts) {
   if (window_ == nullptr) return;
   {
     const Flag flag(isShowing_);
-    ShowFont();  // without delay: the old fonts may be deleted, and Update waits while a gesture is pending
+    ShowFont();  // at once: the old fonts may be deleted, and Update waits while a gesture is pending
   }
   Update();
 }

@@ -42,9 +42,9 @@ class ControlView {
 
   /// The control.
   forms::Control& Model() const { return model_; }
-  /// The handle; null once the window was destroyed.
+  /// The handle of the window, or null after the window was destroyed.
   HWND Window() const { return window_; }
-  /// Returns the view of a control's window; null for other windows.
+  /// Returns the view of a control's window, or null for other windows.
   static ControlView* Of(HWND window);
 
   /// Shows the state of the control, if it has changed since the last call or if user input has changed the
@@ -52,7 +52,7 @@ class ControlView {
   void Update();
   /// Drops the gestures that were reported but not yet performed.
   void DiscardGestures();
-  /// Uses these fonts from now on; they must outlive the view.
+  /// Uses these fonts from now on. They must outlive the view.
   void UseFonts(Fonts& fonts);
   /// Begins a group with this control, so that arrow keys don't reach it from the control before.
   void BeginGroup();
@@ -68,11 +68,12 @@ class ControlView {
   /// Moves the window to this area, in pixels of the form's client area.
   virtual void Place(const forms::Area& area);
 
-  /// The window sends its form a WM_COMMAND with this notification code.
+  /// Called when the window sends its form a WM_COMMAND with this notification code.
   virtual void OnCommand(WORD /*code*/) {}
-  /// The window sends its form a WM_NOTIFY. Without a value, Windows handles it.
+  /// Called when the window sends its form a WM_NOTIFY. If this returns no value, Windows handles the
+  /// message.
   virtual std::optional<LRESULT> OnNotify(NMHDR& /*header*/) { return std::nullopt; }
-  /// The form asks this view to draw the window.
+  /// Called when the form asks this view to draw the window.
   virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
 
  protected:
@@ -81,7 +82,7 @@ class ControlView {
 
   /// Shows the properties that only this kind of control has, without reporting a gesture.
   virtual void Show() = 0;
-  /// Handles a message to the control's window before the window does. If a value is returned, the window
+  /// Handles a message to the control's window before the window does. If this returns a value, the window
   /// doesn't get the message.
   virtual std::optional<LRESULT> OnMessage(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) {
     return std::nullopt;
@@ -94,19 +95,20 @@ class ControlView {
   virtual void ShowSpoken(const Spoken& spoken);
   /// The service that gives texts to screen readers.
   Annotations& Reader() const { return stage_.annotations; }
-  /// Role of the control for screen readers, one of MSAA's ROLE_SYSTEM_ constants; 0 keeps the window's own.
+  /// The role of the control for screen readers, one of MSAA's ROLE_SYSTEM_ constants; 0 keeps the window's
+  /// own role.
   virtual LONG Role() const { return 0; }
 
   /// Reports a gesture, unless the view itself is changing the window.
   void Report(std::function<void()> gesture);
   /// Reports that the user has moved the focus here.
   void ReportFocus();
-  /// Lets OnChanges be called once, after the messages that are waiting now. Windows reports one change with
-  /// several messages.
+  /// Requests one call of OnChanges after the messages that are waiting now, because Windows reports one
+  /// change with several messages.
   void AwaitChanges();
-  /// Is called after AwaitChanges, when the messages were handled.
+  /// Called after AwaitChanges, when the waiting messages have been handled.
   virtual void OnChanges() {}
-  /// Notes that user input has changed the window, which may differ from the model now.
+  /// Records that user input has changed the window, so that it may now differ from the model.
   void Touch() { touched_ = true; }
   /// Returns true while the window is getting the focus.
   bool IsTakingFocus() const { return isTakingFocus_; }
@@ -117,11 +119,11 @@ class ControlView {
   }
   /// Returns the text of the window.
   std::wstring WindowText() const;
-  /// Sets the window's text, unless it is the same already.
+  /// Sets the window's text if it is different.
   void SetText(const std::string& text);
   /// The font of the window's text.
   HFONT Font() const { return font_; }
-  /// Number of pixels per inch of the window's monitor.
+  /// The number of pixels per inch of the window's monitor.
   UINT Dpi() const { return dpi_; }
   /// Converts a length at 96 dots per inch to pixels.
   int Scaled(int length) const { return MulDiv(length, static_cast<int>(dpi_), USER_DEFAULT_SCREEN_DPI); }
@@ -129,7 +131,7 @@ class ControlView {
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                     DWORD_PTR data);
-  /// Removes the view's data from the window and forgets the window.
+  /// Removes the view's data from the window. The view then has no window.
   void DetachWindow();
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   void ShowFont();

@@ -9,7 +9,8 @@
 
 namespace plotsmith::windows {
 
-/// Makes the view of a control; null for an invisible kind such as a timer. `presses` outlives the view.
+/// Makes the view of a control, or returns null for an invisible kind, such as a timer. `presses` must
+/// outlive the view.
 std::unique_ptr<ControlView> MakeControlView(forms::Control& control, const Stage& stage,
                                              forms::SecondPress& presses);
 
@@ -19,13 +20,13 @@ class ControlViews final : public forms::Measures {
   /// Creates the windows. The fonts must outlive this object.
   ControlViews(forms::Form& form, const Stage& stage, forms::SecondPress& presses);
 
-  /// Returns the view of a control; null if the control is of an invisible kind.
+  /// Returns the view of a control, or null for an invisible kind.
   ControlView* Find(const forms::Control& control) const;
   /// The first view in tab order.
   auto begin() const { return views_.begin(); }
   /// The end of the views.
   auto end() const { return views_.end(); }
-  /// Uses these fonts in all views; they must outlive this object.
+  /// Uses these fonts in all views. They must outlive this object.
   void UseFonts(Fonts& fonts);
 
   forms::Size LeastSize(const forms::Control& control) const override;

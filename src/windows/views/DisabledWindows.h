@@ -5,8 +5,8 @@
 #include "windows/com/Windows.h"
 namespace plotsmith::windows {
 
-/// Disables all windows of this thread while it lives; Excel has one for each workbook. Windows that were
-/// disabled before stay disabled afterwards.
+/// Disables all windows of this thread while this object exists. Excel has a window for each workbook.
+/// Windows that were disabled before stay disabled afterwards.
 class DisabledWindows {
  public:
   DisabledWindows();

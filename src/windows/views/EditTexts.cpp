@@ -51,7 +51,8 @@ std::wstring ClipboardText(HWND owner) {
   return clipboard.IsOpen() ? LockedText(GetClipboardData(CF_UNICODETEXT)).Text() : std::wstring();
 }
 
-/// Start and end of the selection, in UTF-16 units; both are the cursor's position if nothing is selected.
+/// The start and the end of the selection, in UTF-16 units. If nothing is selected, both are the position of
+/// the cursor.
 struct Selection {
   DWORD from = 0, to = 0;
 };
@@ -63,7 +64,7 @@ Selection SelectionOf(HWND edit) {
   return selection;
 }
 
-/// Number of units that fit once the selection is replaced.
+/// Returns the number of units that fit in place of the selection.
 std::size_t RoomIn(HWND edit) {
   const auto [from, to] = SelectionOf(edit);
   const auto most = static_cast<std::size_t>(SendMessageW(edit, EM_GETLIMITTEXT, 0, 0));

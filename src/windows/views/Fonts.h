@@ -14,10 +14,10 @@ namespace plotsmith::windows {
 /// The Windows fonts of a form and its controls, at one resolution. They live as long as this object.
 class Fonts {
  public:
-  /// `dpi` is the number of pixels per inch.
+  /// Makes fonts for a resolution of `dpi` pixels per inch.
   explicit Fonts(UINT dpi) : dpi_(dpi) {}
 
-  /// Number of pixels per inch.
+  /// The number of pixels per inch.
   UINT Dpi() const { return dpi_; }
   /// Returns the font with the model's typeface, character set and size. A font without a name gets the
   /// typeface of the system's message boxes.
@@ -33,7 +33,7 @@ class Fonts {
   std::map<Key, std::unique_ptr<std::remove_pointer_t<HFONT>, Delete>> fonts_;
 };
 
-/// Returns the size of a text in pixels. "&" in front of a letter takes no room.
+/// Returns the size of a text in pixels. An "&" before a letter has no width.
 SIZE TextSize(HFONT font, const std::wstring& text);
 /// Returns the height of a line and the average width of a character, in pixels.
 SIZE CharacterSize(HFONT font);

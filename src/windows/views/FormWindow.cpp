@@ -31,7 +31,7 @@ RECT WindowArea(HWND window) {
   return area;
 }
 
-/// The area of the window's monitor that taskbars leave free; that of the primary monitor for null.
+/// Returns the area of the window's monitor that taskbars leave free. Null means the primary monitor.
 RECT WorkArea(HWND window) {
   MONITORINFO monitor = {};
   monitor.cbSize = sizeof monitor;
@@ -39,7 +39,7 @@ RECT WorkArea(HWND window) {
   return monitor.rcWork;
 }
 
-/// The area in which a window is centred: the owner's, or the screen if the owner isn't visible.
+/// Returns the area in which a window is centred: its owner's area, or the screen if the owner isn't visible.
 RECT AreaAround(HWND owner) {
   const bool isSeen = owner != nullptr && IsWindowVisible(owner) && !IsIconic(owner);
   return isSeen ? WindowArea(owner) : WorkArea(owner);
@@ -61,7 +61,7 @@ DWORD ExtendedStyle() {
   return IsRightToLeft() ? kPlainExtendedStyle | WS_EX_LAYOUTRTL : kPlainExtendedStyle;
 }
 
-/// Distance of a scroll bar's thumb from its start.
+/// Returns the distance of a scroll bar's thumb from its start.
 int ScrollPlace(HWND window, int bar) {
   SCROLLINFO info = {};
   info.cbSize = sizeof info;
@@ -194,8 +194,7 @@ bool FormWindow::TakeKey(const MSG& message) {
   return true;
 }
 
-// No exception may leave a window procedure. The only possible one is that memory runs out; the message is
-// then lost.
+// No exception may leave a window procedure. Only a lack of memory can cause one; the message is then lost.
 LRESULT CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_NCCREATE) {
     const auto* const creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
@@ -323,7 +322,7 @@ SIZE FormWindow::SizeAround(const forms::Size& inside, UINT dpi) const {
   return {Width(outside), Height(outside)};
 }
 
-// Texts don't grow exactly as the resolution does, so the least size of the page is measured again.
+// Texts don't grow in exact proportion to the resolution, so the minimum size of the page is measured again.
 SIZE FormWindow::ScaledSize(UINT dpi) {
   const UINT before = fonts_->Dpi();
   const forms::Size room = Room();
@@ -433,7 +432,7 @@ void FormWindow::ShowFocus(const ControlView& view) {
   if (area.left < 0) Scroll(SB_HORZ, static_cast<int>(area.left));
 }
 
-// The content of a marked frame has the frame's colour, unless it has its own.
+// The controls in a marked frame have the frame's colour, unless they have their own.
 void FormWindow::Erase(HDC context) const {
   RECT area = {};
   GetClientRect(window_, &area);
@@ -446,7 +445,8 @@ void FormWindow::Erase(HDC context) const {
   }
 }
 
-// The parts of a combo box have its colour. An open list is not its child and keeps the system's colour.
+// The parts of a combo box have its colour. An open list is not a child of the combo box, and keeps the
+// system's colour.
 LRESULT FormWindow::ColorOf(HDC context, HWND control) const {
   const ControlView* view = ControlView::Of(control);
   if (view == nullptr) view = ControlView::Of(GetAncestor(control, GA_PARENT));

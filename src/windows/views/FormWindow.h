@@ -14,7 +14,8 @@ namespace plotsmith::windows {
 /// The window of a form. The thread's other windows are disabled while it is open.
 class FormWindow {
  public:
-  /// `owner` is the window in front of which this one stays; null for none. `presses` outlives it.
+  /// Makes the window of a form. It stays in front of `owner`, which may be null. `presses` must outlive the
+  /// window.
   FormWindow(forms::Form& form, HWND owner, Post post, forms::SecondPress& presses);
   ~FormWindow();
   FormWindow(const FormWindow&) = delete;
@@ -22,16 +23,16 @@ class FormWindow {
 
   /// The form.
   forms::Form& Model() const { return form_; }
-  /// Returns the handle; null if the window was destroyed from outside.
+  /// Returns the handle, or null if the window was destroyed from outside.
   HWND Handle() const { return window_; }
   /// Shows the window, activates it, and disables the thread's other windows.
   void ShowOnScreen();
   /// Shows the changes of the form's state.
   void Update();
-  /// Activates the window again after the form in front of it has closed. Gestures that were reported before
-  /// that are dropped, as the loop drops gestures of a form that isn't in front.
+  /// Activates the window again after the form in front of it has closed. Drops the gestures that were
+  /// reported before, just as the loop drops gestures of a form that isn't in front.
   void BecomeFront();
-  /// Handles a message as dialogs do; returns false if the message belongs to another window.
+  /// Handles a message as dialogs do. Returns false if the message belongs to another window.
   bool TakeMessage(MSG& message);
 
  private:
@@ -43,13 +44,13 @@ class FormWindow {
   std::optional<LRESULT> HandleControl(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> HandlePlace(UINT message, WPARAM wParam, LPARAM lParam);
 
-  /// Returns the view of the control with the focus; null for none.
+  /// Returns the view of the control with the focus, or null if none has it.
   ControlView* FocusView() const;
   bool TakeKey(const MSG& message);
   void UpdateFocus();
 
   void UseDpi(UINT dpi);
-  /// Size of the client area, including scroll bars.
+  /// Returns the size of the client area, including scroll bars.
   forms::Size Room() const;
   /// Returns the size in pixels of a window whose client area has this size, at `dpi` dots per inch.
   SIZE SizeAround(const forms::Size& inside, UINT dpi) const;
@@ -74,9 +75,10 @@ class FormWindow {
   std::unique_ptr<Fonts> fonts_;
   std::unique_ptr<ControlViews> views_;
   std::optional<DisabledWindows> disabledWindows_;
-  forms::Size least_;         ///< of the layout, with its margins
-  HWND lastFocus_ = nullptr;  ///< kept while another window is active
-  bool isArranging_ = false;  ///< a scroll bar that appears or disappears changes the client area
+  forms::Size least_;         ///< the minimum size of the layout, with its margins
+  HWND lastFocus_ = nullptr;  ///< the last window with the focus, stored while another window is active
+  bool isArranging_ = false;  ///< true while Arrange works, because scroll bars that appear or disappear
+                              ///< change the client area
 };
 
 }  // namespace plotsmith::windows

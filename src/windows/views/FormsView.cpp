@@ -80,8 +80,8 @@ bool FormsView::HandleMessage(UINT kinds) {
 
 bool FormsView::IsFrontGone() const { return quitCode_.has_value() || Front()->Handle() == nullptr; }
 
-// The model gets one gesture at a time even if a message brings several, so that each gesture acts on the
-// form as the one before it has left it.
+// The model gets one gesture at a time, even if a message causes several, so that each gesture acts on the
+// result of the previous one.
 void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) {
   const ThreadDpi dpi;
   ShowChanges();
@@ -102,9 +102,10 @@ void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::millis
   PostTo(queue);
 }
 
-// The system is in the middle of its work. User input waits until the work is done, so that it never acts on
-// a half-finished state; windows are painted and timers run. The loop is limited, because a window of the
-// host may post itself a message with each one, or may never paint the area that it is asked to paint.
+// The system is in the middle of its work. User input waits until the work is done, because it must not act
+// on a half-finished state. Windows are painted and timers run. The loop is limited, because a window of the
+// host may post a new message for each one that it handles, or may never paint the area that it is asked to
+// paint.
 void FormsView::HandleEvents(forms::EventQueue& queue) {
   const ThreadDpi dpi;
   ShowChanges();
@@ -112,7 +113,7 @@ void FormsView::HandleEvents(forms::EventQueue& queue) {
   while (!quitCode_ && HandleMessage(PM_QS_PAINT | PM_QS_POSTMESSAGE | PM_QS_SENDMESSAGE) &&
          Clock::now() < end) {
   }
-  if (windows_.empty()) PostQuitAgain();  // No window of this view will close and do it.
+  if (windows_.empty()) PostQuitAgain();  // No window of this view is open whose closing would do this.
   com::NoteChange();
   PostTo(queue);
 }

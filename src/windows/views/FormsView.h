@@ -17,7 +17,8 @@ namespace plotsmith::windows {
 /// handled, but the host's windows take no input.
 class FormsView final : public forms::View {
  public:
-  /// `hostWindow` returns the window in front of which the dialogs stay; null if it isn't known.
+  /// Makes a view. `hostWindow` returns the window that the dialogs stay in front of, or null if it isn't
+  /// known.
   explicit FormsView(std::function<HWND()> hostWindow) : hostWindow_(std::move(hostWindow)) {}
 
   void Open(forms::Form& form) override;
@@ -25,10 +26,10 @@ class FormsView final : public forms::View {
   void Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) override;
   void HandleEvents(forms::EventQueue& queue) override;
 
-  /// Returns the window of the form in front; null if there is none.
+  /// Returns the window of the form in front, or null if there is none.
   FormWindow* Front() const { return windows_.empty() ? nullptr : windows_.back().get(); }
-  /// Returns true if the user can't reach the form in front any more: its window was destroyed, or the host
-  /// ends.
+  /// Returns true if the user can no longer reach the form in front, because its window was destroyed or the
+  /// host is ending.
   bool IsFrontGone() const;
   /// Shows the changes of all forms.
   void ShowChanges();
@@ -39,7 +40,7 @@ class FormsView final : public forms::View {
   bool HandleMessage(UINT kinds = 0);
 
  private:
-  /// Posts a WM_QUIT again that was meant for the host.
+  /// Posts again a WM_QUIT that was meant for the host.
   void PostQuitAgain();
   struct Gesture {
     forms::Form* form;
@@ -53,9 +54,9 @@ class FormsView final : public forms::View {
   forms::SecondPress presses_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
   std::vector<Gesture> pending_;
-  /// The exit code for the host's own loop, which received WM_QUIT. The message is posted again when the last
-  /// form has closed.
-  std::optional<int> quitCode_;  ///< exit code of a WM_QUIT that was taken out of the queue
+  /// The exit code of a WM_QUIT that was taken out of the queue. The message is meant for the host's own
+  /// loop, and is posted again when the last form has closed.
+  std::optional<int> quitCode_;
 };
 
 }  // namespace plotsmith::windows

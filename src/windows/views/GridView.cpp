@@ -163,8 +163,8 @@ void GridView::ShowSelection() {
   ListView_EnsureVisible(Window(), first, FALSE);
 }
 
-// No text is cut off as long as there is room. A page that sets no widths gets equal ones. Widths that the
-// user has set are kept, and grow with the resolution.
+// No text is cut off as long as there is enough space. If the page sets no widths, all columns have equal
+// widths. Widths that the user has set are kept, and grow with the resolution.
 void GridView::SetColumnShares() {
   if (handDpi_ != 0) {
     const UINT before = std::exchange(handDpi_, Dpi());

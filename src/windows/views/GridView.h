@@ -32,7 +32,7 @@ class GridView final : public ControlView {
   void SetColumnShares();
 
   forms::VSFlexGrid& model_;
-  UINT handDpi_ = 0;  ///< the resolution at which the user has set column widths; 0 if the user has set none
+  UINT handDpi_ = 0;  ///< the resolution at which the user set column widths; 0 if the user has set none
 };
 
 }  // namespace plotsmith::windows

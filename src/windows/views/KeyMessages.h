@@ -9,7 +9,7 @@ namespace plotsmith::windows {
 forms::KeyPress KeyPressOf(const MSG& message);
 
 /// Counts a key that is held down as one press. Otherwise its repetitions would press the buttons of several
-/// message boxes and forms in turn. It works on all dialogs of the thread as long as it lives.
+/// message boxes and forms in turn. This affects all dialogs of the thread while this object exists.
 class HeldKeys {
  public:
   HeldKeys();

@@ -39,7 +39,7 @@ std::vector<std::wstring> EntriesOf(HWND list, const EntryMessages& messages) {
   return entries;
 }
 
-/// Shows the entries of the model; returns false if the list has them already.
+/// Shows the entries of the model. Returns false if the list already has them.
 bool ShowEntriesIn(HWND list, const forms::EntryList& model, const EntryMessages& messages) {
   const std::vector<std::wstring> entries = EntriesOf(model);
   if (EntriesOf(list, messages) == entries) return false;
@@ -80,7 +80,7 @@ void ComboBoxView::DetachEdit() {
   ForgetSubclassData(std::exchange(edit_, nullptr), EditProcedure);
 }
 
-// The edit control of a combo box is no control of the form, but texts are pasted into it in the same way.
+// The edit control of a combo box isn't a control of the form, but texts are pasted into it in the same way.
 LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                                              UINT_PTR, DWORD_PTR data) {
   auto* const view = reinterpret_cast<ComboBoxView*>(data);
@@ -88,7 +88,7 @@ LRESULT CALLBACK ComboBoxView::EditProcedure(HWND window, UINT message, WPARAM w
     if (view != nullptr && HandleEditMessage(window, Lines::kOne, message, wParam)) return 0;
     if (message == WM_NCDESTROY && view != nullptr) view->DetachEdit();
   } catch (...) {
-    return 0;  // Memory is short.
+    return 0;  // There isn't enough memory.
   }
   if (message == WM_NCDESTROY) RemoveSubclass(window, EditProcedure);
   return CallNextProcedure(window, message, wParam, lParam);

@@ -54,7 +54,8 @@ class ListBoxView final : public ControlView {
  private:
   bool HasSeveral() const { return model_.MultiSelect() == forms::MultiSelect::kExtended; }
   std::vector<std::int32_t> Selected() const;
-  /// Selects an entry on behalf of the user in a list with single selection; -1 deselects it.
+  /// Selects an entry of a list without a selection on behalf of the user. In a list with single selection,
+  /// -1 deselects the selected entry.
   void SelectAlone(std::int32_t entry);
   void ShowSelection();
 

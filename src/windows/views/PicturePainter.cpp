@@ -38,7 +38,7 @@ class Canvas {
 /// Draws shapes that are given in points.
 class Painter {
  public:
-  /// `scale` is the number of pixels per point.
+  /// Makes a painter. `scale` is the number of pixels per point.
   Painter(HDC context, double scale) : context_(context), scale_(scale) {}
 
   void Draw(const pictures::Shape& shape) {

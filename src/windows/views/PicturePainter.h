@@ -5,8 +5,8 @@
 
 namespace plotsmith::windows {
 
-/// Paints a picture in the middle of the area, as large as possible, in its own proportions, with smooth
-/// edges. The rest of the area is filled with `background`.
+/// Paints a picture in the middle of the area, as large as possible without distortion, with smooth edges.
+/// The rest of the area is filled with `background`.
 void PaintPicture(HDC context, const pictures::Picture& picture, const RECT& area, HBRUSH background);
 
 }  // namespace plotsmith::windows

@@ -27,7 +27,7 @@ class FrameView final : public ControlView {
   /// Makes the window for `model`.
   FrameView(forms::Frame& model, const Stage& stage);
   forms::Size LeastSize() const override;
-  /// Distance between the edges and the content.
+  /// The distances between the edges of the frame and its content, in pixels.
   forms::Edges Edges() const;
   /// The area inside the frame's line, which runs through the middle of the title, in coordinates of the
   /// form's window.

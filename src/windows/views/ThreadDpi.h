@@ -4,8 +4,8 @@
 
 namespace plotsmith::windows {
 
-/// Makes the thread aware of the resolution of each monitor while it lives. Windows that are created
-/// meanwhile are sharp on every monitor. The host's own awareness is restored afterwards.
+/// Makes the thread aware of the resolution of each monitor while this object exists. Windows that are
+/// created during that time are sharp on every monitor. The host's own DPI awareness is restored afterwards.
 class ThreadDpi {
  public:
   ThreadDpi() : before_(SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2)) {}
