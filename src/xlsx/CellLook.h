@@ -29,9 +29,9 @@ struct CellLook {
   HorizontalAlignment horizontal = HorizontalAlignment::kGeneral;
   /// The vertical alignment.
   VerticalAlignment vertical = VerticalAlignment::kBottom;
-  int indent = 0;     ///< The indent in steps of three blanks.
+  int indent = 0;     ///< The indent in steps of three spaces.
   bool wrap = false;  ///< Whether a long text continues on the next line of the cell.
-  /// The styles of the letters.
+  /// The font style: whether the text is bold, italic, underlined or struck through.
   bool bold = false, italic = false, underline = false, strike = false;
   std::string font;  ///< The name of the font.
   double size = 11;  ///< The size of the font in points.
