@@ -20,7 +20,7 @@ struct DateSlots {
   double count = 0;
   /// The positions of the categories, in slots from the first one.
   std::vector<double> positions;
-  /// The distance between two labels in units of `majorBase`. 0 is automatic.
+  /// The distance between two labels, in units of `majorBase`. 0 means automatic.
   double majorUnit = 0;
   /// The unit of `majorUnit`.
   TimeUnit majorBase = TimeUnit::kDays;

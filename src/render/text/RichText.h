@@ -11,7 +11,7 @@ namespace plotsmith::render {
 /// The format of a text.
 struct TextStyle {
   Font font;                       ///< The font, and its size in points.
-  Color color;                     ///< The colour of the letters.
+  Color color;                     ///< The colour of the text.
   std::optional<double> rotation;  ///< The rotation in degrees clockwise; absent if it is automatic.
   bool stacked = false;            ///< Whether letters are below each other.
 };
@@ -20,7 +20,7 @@ struct TextStyle {
 struct TextRun {
   std::string text;  ///< The text in UTF-8, without line feeds.
   Font font;         ///< The font, and its size in points.
-  Color color;       ///< The colour of the letters.
+  Color color;       ///< The colour of the text.
 };
 /// A text of paragraphs, which consist of runs.
 struct RichText {
