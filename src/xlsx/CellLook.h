@@ -15,7 +15,7 @@ enum class HorizontalAlignment { kGeneral, kLeft, kCenter, kRight, kFill, kCente
 /// The vertical alignment of a cell (ST_VerticalAlignment).
 enum class VerticalAlignment { kTop, kCenter, kBottom };
 
-/// A line at an edge of a cell (CT_BorderPr). Its dashes are not kept.
+/// A line at an edge of a cell (CT_BorderPr). Its dash pattern isn't stored.
 struct BorderLine {
   int width = 0;                      ///< The width in pixels at 96 dots per inch; 0 for no line.
   std::optional<std::int32_t> color;  ///< Red + 256 * green + 65536 * blue; absent for the text colour.

@@ -131,7 +131,7 @@ class Web {
       Shorten(block, kWidestLabel * area.width, plot_.canvas.Measure());
       const Point way{std::abs(DirectionOf(i, count_).x), std::abs(DirectionOf(i, count_).y)};
       const auto limit = [&](double share, double half, double extent) {
-        constexpr double kFlat = 0.05;  // Labels of spokes along this side need no room at it.
+        constexpr double kFlat = 0.05;  // Labels of spokes parallel to this side need no space there.
         if (share > kFlat) radius_ = std::min(radius_, (half - extent / 2) / share - extent / 2 - kWebGap);
       };
       limit(way.x, area.width / 2, block.TurnedWidth());

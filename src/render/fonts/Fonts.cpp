@@ -59,8 +59,9 @@ using Description = std::unique_ptr<PangoFontDescription, FreeDescription>;
 /// hinting off, would make Pango list the families of all fonts. Hinting doesn't change widths that aren't
 /// rounded.
 PangoContext* NewFreeTypeContext() {
-  FcInit();  // Pango starts a thread for this. A thread that needs the fonts meanwhile would read them as
-             // well.
+  // Otherwise Pango initializes Fontconfig in a thread of its own. Another thread that needs the fonts
+  // meanwhile would read them a second time.
+  FcInit();
   const std::unique_ptr<PangoFontMap, Release> map(pango_ft2_font_map_new());
   return pango_font_map_create_context(map.get());
 }

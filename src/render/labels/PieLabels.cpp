@@ -123,7 +123,7 @@ void RemoveLabelsWithoutSpace(std::vector<PlacedLabel*>& side, double height) {
 /// Returns where moved labels may be: in the plot area, or on the whole chart if the user set the plot area.
 Rect RoomOf(const Plot& plot) { return plot.chart.layout ? plot.canvas.Bounds() : plot.area; }
 
-/// Returns the room for a leader line to a label that was moved by a distance, in points.
+/// Returns the space for a leader line to a label that was moved by `way`. Both are in points.
 double LineRoomFor(double way) {
   constexpr double kShare = 0.3, kMost = 12;  // share of the distance; points
   return std::min(kShare * way, kMost);

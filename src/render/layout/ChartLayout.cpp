@@ -294,7 +294,7 @@ class Layouter {
   ChartLayout layout_;
   Rect free_;
   Edges titles_, rooms_;
-  bool isTableTooNarrow_ = false;  ///< the data table had no room in any pass
+  bool isTableTooNarrow_ = false;  ///< whether the data table had too little space in a pass
 };
 
 }  // namespace

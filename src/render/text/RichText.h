@@ -13,7 +13,7 @@ struct TextStyle {
   Font font;                       ///< The font, and its size in points.
   Color color;                     ///< The colour of the text.
   std::optional<double> rotation;  ///< The rotation in degrees clockwise; absent if it is automatic.
-  bool stacked = false;            ///< Whether letters are below each other.
+  bool stacked = false;            ///< Whether characters are stacked vertically.
 };
 
 /// A part of a text in one format.
@@ -27,7 +27,7 @@ struct RichText {
   /// The paragraphs from top to bottom. Each is a list of runs, which is empty for an empty line.
   std::vector<std::vector<TextRun>> paragraphs;
   std::optional<double> rotation;  ///< The rotation in degrees clockwise; absent if it is automatic.
-  bool stacked = false;            ///< Whether letters are below each other.
+  bool stacked = false;            ///< Whether characters are stacked vertically.
 
   /// Returns true if no run has a text.
   bool IsEmpty() const;

@@ -226,7 +226,7 @@ void FindMinutes(Section& section) {
   }
 }
 
-/// Returns the largest number of equal letters that has its own meaning.
+/// Returns the largest number of equal letters that has a meaning of its own.
 std::uint32_t MostSize(Kind kind) {
   switch (kind) {
     case Kind::kHour:

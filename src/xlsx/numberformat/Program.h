@@ -109,7 +109,8 @@ struct Section {
   /// The denominator that the format gives. If it is 0, the best denominator with at most `denominators`
   /// digits is used.
   std::int64_t fixedDenominator = 0;
-  /// The first token that is blank for a whole number, and the token after the last one.
+  /// The index of the first token that is left blank for a whole number, and of the token after the last such
+  /// token.
   std::size_t fractionBegin = 0;
   std::size_t fractionEnd = 0;
   ///@}

@@ -34,7 +34,7 @@ double DefaultColumnPoints(int characters, int digit) {
 }  // namespace
 
 int DigitWidth(const Styles& styles) {
-  // The exact value is known for common default fonts. For others it grows with the size in the same way.
+  // The exact width is known for some common default fonts. For others, it is estimated.
   struct Known {
     std::string_view font;
     double size;

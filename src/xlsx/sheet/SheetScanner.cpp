@@ -331,7 +331,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
   if (p == nullptr) return Piece::kCut;
   std::string_view text;
   bool formula = false;
-  while (tag.open) {  // what the cell holds
+  while (tag.open) {  // the children of the cell
     while (*p != '<' && *p != '\0') ++p;
     if (*p == '\0') return Piece::kCut;
     const char* inner = p + 1;
