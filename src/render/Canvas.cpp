@@ -6,7 +6,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// A coordinate in points that no page reaches. Painters lose digits beyond it.
+/// A coordinate, in points, that is beyond any page. Painters lose precision beyond it.
 constexpr double kFarthest = 1e6;
 
 bool IsNear(Point point) { return std::abs(point.x) <= kFarthest && std::abs(point.y) <= kFarthest; }
@@ -85,7 +85,7 @@ void Canvas::AddShadow(Tag tag, const Path& path, const Fill& fill, const Stroke
   if (!item.filled && !(item.lineWidth > 0)) return;
   if (path.IsEmpty() || !IsNear(item.path) || !(item.color.alpha > 0)) return;
   if (const auto* solid = std::get_if<SolidFill>(&fill)) item.color.alpha *= solid->color.alpha;
-  constexpr double kReach = 3;  // standard deviations, beyond which a soft edge isn't seen
+  constexpr double kReach = 3;  // standard deviations beyond which a soft edge is invisible
   const double reach = item.lineWidth / 2 + kReach * item.blur;
   const Rect bounds = item.path.Bounds();
   if (!TakeShadow(

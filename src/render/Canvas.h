@@ -18,7 +18,7 @@ class Canvas {
   Canvas(Drawing& drawing, const TextMeasure& measure, Notes& notes)
       : drawing_(drawing), measure_(measure), notes_(notes) {}
 
-  /// Adds a path. Paths without filling and line, and paths outside of the drawing, are left out.
+  /// Adds a path. Paths that have neither a fill nor a line, and paths outside of the drawing, are left out.
   void Add(Tag tag, Path path, const Fill& fill, const Stroke& stroke = {});
   /// Adds a rectangle, even if it is invisible, so that the drawing contains its position.
   void AddFrame(Tag tag, const Rect& box, const Fill& fill, const Stroke& stroke);
@@ -43,13 +43,13 @@ class Canvas {
   Drawing& Target() { return drawing_; }
 
  private:
-  /// Appends the pictures of a filling, clipped to the path.
+  /// Appends the pictures of a fill, clipped to the path.
   void AddPictures(Tag tag, const Path& path, const PictureFill& fill);
 
   bool TakeShadow(const Rect& bounds);
 
   std::size_t shadowsLeft_ = 5000;
-  double shadowAreaLeft_ = 40;  ///< In areas of the drawing. Soft edges take time.
+  double shadowAreaLeft_ = 40;  ///< For soft shadows, in areas of the drawing.
   std::size_t pictureBytesLeft_ = 16 * 1024 * 1024;
   Drawing& drawing_;
   const TextMeasure& measure_;

@@ -3,7 +3,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// Scales the items of a drawing and moves its corner to a point.
+/// Scales the items of a drawing and moves its top left corner to a point.
 class Placer {
  public:
   Placer(Point corner, double scale) : corner_(corner), scale_(scale) {}

@@ -126,7 +126,7 @@ Path& Path::AddPolygon(const std::vector<Point>& corners) {
 }
 
 Path& Path::ArcTo(const Rect& bounds, double from, double sweep) {
-  constexpr double kLongest = 90;  // degrees that one cubic curve approximates well enough
+  constexpr double kLongest = 90;  // degrees; one cubic curve approximates such an arc well enough
   const int pieces = std::clamp(static_cast<int>(std::ceil(std::abs(sweep) / kLongest - 1e-9)), 1, 8);
   const double step = sweep / pieces;
   const double reach = 4.0 / 3 * std::tan(step * kRadian / 4);

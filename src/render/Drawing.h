@@ -59,7 +59,7 @@ Color FromExcel(std::int32_t color, double alpha = 1);
 /// Returns the colour as "#RRGGBB". The opacity isn't part of it.
 std::string HexOf(const Color& color);
 
-/// A filling of one colour.
+/// A fill of one colour.
 struct SolidFill {
   /// The colour of the whole area.
   Color color;
@@ -82,7 +82,7 @@ struct GradientFill {
   /// The start of a radial gradient, in fractions of the bounds.
   Point focus = {0.5, 0.5};
 };
-/// A preset pattern of 8 by 8 pixels at 96 dpi. The tiles begin at the picture's origin.
+/// A preset pattern with tiles of 8 by 8 pixels at 96 dpi. The tiles begin at the picture's origin.
 struct PatternFill {
   /// The name of the pattern, as a value of ST_PresetPatternVal.
   std::string preset;
@@ -90,19 +90,19 @@ struct PatternFill {
   Color foreground, background;
 };
 /// A PNG picture, stretched over the bounds of the path or repeated in tiles. Drawings don't contain this
-/// filling: a Canvas replaces it by images that are clipped to the path.
+/// fill: a Canvas replaces it by images that are clipped to the path.
 struct PictureFill {
   /// The bytes of the PNG file.
   std::shared_ptr<const std::string> bytes;
   /// The size of a tile in points. It is 0 if the picture is stretched.
   double tileWidth = 0, tileHeight = 0;
 };
-/// The inside of a path. std::monostate is no filling.
+/// The fill of a path. std::monostate means no fill.
 using Fill = std::variant<std::monostate, SolidFill, GradientFill, PatternFill, PictureFill>;
 
-/// The form of the ends of a line.
+/// The shape of the ends of a line.
 enum class LineCap : std::uint8_t { kFlat, kRound, kSquare };
-/// The form of the corners of a line.
+/// The shape of the corners of a line.
 enum class LineJoin : std::uint8_t { kMiter, kRound, kBevel };
 
 /// The outline of a path.
@@ -113,9 +113,9 @@ struct Stroke {
   double width = 0;
   /// The lengths of dash, gap, dash and so on, in points. It is empty for a solid line.
   std::vector<double> dashes;
-  /// The form of the ends of the line, and of each dash.
+  /// The shape of the ends of the line, and of each dash.
   LineCap cap = LineCap::kFlat;
-  /// The form of the corners.
+  /// The shape of the corners.
   LineJoin join = LineJoin::kRound;
 };
 
@@ -178,7 +178,7 @@ class Path {
   std::vector<PathStep> steps_;
 };
 /// Returns the point of the ellipse inscribed in `bounds` at an angle in degrees, clockwise from twelve
-/// o'clock. The angle is that of a circle which is then stretched to the ellipse.
+/// o'clock. The angle is measured on a circle that is then stretched to the ellipse.
 Point OnEllipse(const Rect& bounds, double degrees);
 
 /// A font of a text.
@@ -187,7 +187,7 @@ struct Font {
   std::string family;
   /// The size in points.
   double size = 10;
-  /// The styles of the letters. Underlines have the colour of the text.
+  /// Whether the text is bold, italic and underlined. An underline has the colour of the text.
   bool bold = false, italic = false, underline = false;
 
   bool operator==(const Font&) const = default;
@@ -243,8 +243,8 @@ enum class Role : std::uint8_t {
 std::string_view NameOf(Role role);
 
 /// The element that an item shows. Numbers count from 1; 0 means none. For an axis and its parts, `series` is
-/// the number of the axis in the chart part, and `point` the number of the tick. For a part of the legend
-/// they are the series and the point of the entry.
+/// the number of the axis in the chart part, and `point` the number of the tick. For a part of the legend,
+/// they are the numbers of the entry's series and point.
 struct Tag {
   /// The kind of the element.
   Role role = Role::kOther;
@@ -260,9 +260,9 @@ struct Tag {
 struct PathItem {
   /// The outlines, in points.
   Path path;
-  /// The filling inside the outlines.
+  /// The fill inside the outlines.
   Fill fill;
-  /// The line along the outlines, which is painted over the filling.
+  /// The line along the outlines, which is painted over the fill.
   Stroke stroke;
 };
 
@@ -272,7 +272,7 @@ struct TextItem {
   std::string text;
   /// The font, and its size in points.
   Font font;
-  /// The colour of the letters.
+  /// The colour of the text.
   Color color;
   /// The start, the middle or the end of the baseline, depending on `align`.
   Point anchor;
@@ -299,9 +299,9 @@ struct PopClip {};
 struct ShadowItem {
   /// The outlines of the shadow, which include its offset.
   Path path;
-  /// Whether the area of the shape throws a shadow.
+  /// Whether the area of the shape casts a shadow.
   bool filled = true;
-  /// The width of the line that throws a shadow, in points. It is 0 if there is none.
+  /// The width of the line that casts a shadow, in points. It is 0 if there is none.
   double lineWidth = 0;
   /// The colour and the opacity of the shadow.
   Color color;

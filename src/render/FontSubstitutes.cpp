@@ -13,7 +13,8 @@ struct Substitute {
 
 constexpr std::string_view kSans = "sans-serif", kSerif = "serif", kMono = "monospace";
 
-/// The first three substitutes, Caladea and Gelasio have the same widths as the fonts that they replace.
+/// The substitutes of Arial, Times New Roman, Courier New, Calibri, Cambria, Arial Narrow and Georgia have
+/// the same widths as these fonts.
 constexpr Substitute kSubstitutes[] = {
     {"Arial", "Liberation Sans", kSans},
     {"Times New Roman", "Liberation Serif", kSerif},

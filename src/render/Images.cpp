@@ -9,7 +9,7 @@ std::optional<ImageSize> SizeOfImage(std::string_view bytes) {
   constexpr std::string_view kStart = "\x89PNG\r\n\x1a\n";
   constexpr std::size_t kWidthAt = 16, kHeightAt = 20, kHeader = 24;
   constexpr std::size_t kMostBytes = 8 * 1024 * 1024;
-  constexpr std::uint64_t kMostPixels = 16'000'000;  // pixels that a file of a few bytes may expand to
+  constexpr std::uint64_t kMostPixels = 16'000'000;  // A small file may expand to many pixels.
   if (!bytes.starts_with(kStart) || bytes.size() < kHeader || bytes.size() > kMostBytes) return std::nullopt;
   const auto number = [&](std::size_t at) {
     std::uint64_t value = 0;

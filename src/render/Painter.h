@@ -20,14 +20,14 @@ class PdfDocument {
   virtual std::string Finish() = 0;
 };
 
-/// Measures texts and paints pictures with a graphics library. Loading the library takes longer than
-/// starting the command. Therefore the library is loaded through this interface when a picture is painted.
-/// SVG is written without it. Several threads may paint at the same time.
+/// Measures texts and paints pictures with a graphics library. Loading the library takes longer than starting
+/// the command. Therefore it is loaded only when a picture is painted, through this interface. SVG is written
+/// without it. Several threads may paint at the same time.
 class Painter {
  public:
   virtual ~Painter() = default;
 
-  /// Returns the measure for texts that this painter paints, for all threads.
+  /// Returns the object that measures the texts of this painter. All threads may use it.
   virtual const TextMeasure& Measure() const = 0;
   /// Paints a drawing on a white background. `scale` is the number of pixels in a point. Throws
   /// std::length_error if the picture would have no pixel or more than a hundred million.

@@ -23,7 +23,7 @@ class TextMeasure {
   virtual ~TextMeasure() = default;
   /// Returns the size of a line of text (UTF-8) in a font, or in its substitute if it isn't installed.
   virtual TextExtent Measure(std::string_view line, const Font& font) const = 0;
-  /// Returns true if any font is installed. Without fonts, texts become boxes or are invisible.
+  /// Returns true if any font is installed. Without fonts, characters are boxes, or texts are invisible.
   virtual bool HasFonts() const = 0;
 };
 

@@ -20,13 +20,13 @@ class Application : public excel::Application, public std::enable_shared_from_th
   /// A macro of the workbook. `arguments` are those of Run after the name.
   using Macro = std::function<void(const std::vector<runtime::Variant>& arguments)>;
 
-  /// `version` is the result of Version, such as "16.0".
+  /// Makes a host without a workbook. `version` is the result of Version, such as "16.0".
   static std::shared_ptr<Application> Create(std::string version = "16.0");
   ~Application() override;
 
   /// Opens a file as the active workbook. Throws PackageError.
   Workbook& Open(const std::string& path);
-  /// Makes an empty workbook of one sheet the active one.
+  /// Makes a workbook with one empty sheet, which becomes the active workbook.
   Workbook& NewWorkbook();
   /// The active workbook. There must be one.
   Workbook& Book() { return *workbook_; }
@@ -47,7 +47,7 @@ class Application : public excel::Application, public std::enable_shared_from_th
   std::int32_t Calculation() override { return calculation_; }
   void SetCalculation(std::int32_t value) override;
   void SetDisplayAlerts(bool value) override;
-  /// In Excel this is the font of new workbooks. In this host it is the font of the workbook's Normal style.
+  /// Returns the name of the Normal style's font. In Excel, StandardFont is the font of new workbooks.
   std::string StandardFont() override;
   double StandardFontSize() override;
   /// Runs the macro with that name. Raises error 1004 if there is none.

@@ -49,7 +49,7 @@ std::optional<std::int32_t> ColorOf(pugi::xml_node color, const Styles& styles, 
   if (themed >= 0 && themed < static_cast<long long>(kThemeColors.size()))
     return Tinted(theme, "schemeClr", kThemeColors[static_cast<std::size_t>(themed)], tint);
   auto rgb = ParseRgb(xml::Attribute(color, "rgb"));
-  // The first eight are fixed. The palette follows, then the window's colours.
+  // The first eight indices are fixed colours. The palette follows, and then the colours of the window.
   const auto indexed = xml::IntegerAttribute(color, "indexed", -1);
   if (indexed >= 0 && indexed < 8) rgb = DefaultPaletteColor(static_cast<std::int32_t>(indexed) + 1);
   if (indexed >= 8 && indexed < 64) rgb = styles.PaletteColor(static_cast<std::int32_t>(indexed) - 7);
@@ -85,7 +85,8 @@ VerticalAlignment VerticalOf(const std::string& text) {
   return text == "center" || text == "distributed" ? VerticalAlignment::kCenter : VerticalAlignment::kBottom;
 }
 
-/// Reads one edge. `edges` are its possible names: some files have "start" instead of "left".
+/// Reads the border of one edge. `edges` are the possible names of its element: some files have "start"
+/// instead of "left".
 BorderLine BorderOf(pugi::xml_node border, std::initializer_list<std::string_view> edges,
                     const Styles& styles, const Theme& theme) {
   for (const std::string_view edge : edges) {

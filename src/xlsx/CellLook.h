@@ -15,7 +15,7 @@ enum class HorizontalAlignment { kGeneral, kLeft, kCenter, kRight, kFill, kCente
 /// The vertical alignment of a cell (ST_VerticalAlignment).
 enum class VerticalAlignment { kTop, kCenter, kBottom };
 
-/// A line at an edge of a cell (CT_BorderPr). Its dashes are not kept.
+/// A line at an edge of a cell (CT_BorderPr). Its dash pattern isn't stored.
 struct BorderLine {
   int width = 0;                      ///< The width in pixels at 96 dots per inch; 0 for no line.
   std::optional<std::int32_t> color;  ///< Red + 256 * green + 65536 * blue; absent for the text colour.
@@ -29,9 +29,9 @@ struct CellLook {
   HorizontalAlignment horizontal = HorizontalAlignment::kGeneral;
   /// The vertical alignment.
   VerticalAlignment vertical = VerticalAlignment::kBottom;
-  int indent = 0;     ///< The indent in steps of three blanks.
+  int indent = 0;     ///< The indent in steps of three spaces.
   bool wrap = false;  ///< Whether a long text continues on the next line of the cell.
-  /// The styles of the letters.
+  /// The font style: whether the text is bold, italic, underlined or struck through.
   bool bold = false, italic = false, underline = false, strike = false;
   std::string font;  ///< The name of the font.
   double size = 11;  ///< The size of the font in points.

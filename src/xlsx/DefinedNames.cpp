@@ -32,7 +32,8 @@ class BookName final : public excel::DefinedName {
   std::string Name() override { return name_; }
   std::string RefersTo() override { return "=" + entry_.definition; }
 
-  /// A name whose formula computes its range has none here, because this host doesn't evaluate formulas.
+  /// Raises error 1004 for a name whose formula computes its range, because this host doesn't evaluate
+  /// formulas.
   Ref<excel::Range> RefersToRange() override {
     // If a name has several areas, the first one counts.
     std::string_view definition = entry_.definition;

@@ -45,7 +45,7 @@ class ApplicationName final : public excel::DocumentProperty {
     try {
       program = SavingProgram(book_->Package());
     } catch (const PackageError&) {
-      // The rest of a workbook with unreadable properties can still be used.
+      // A workbook whose properties can't be read can still be used.
     }
     if (!program) throw CantGet("Value", "DocumentProperty");
     return *program;

@@ -8,7 +8,7 @@ namespace plotsmith::xlsx {
 
 class Workbook;
 
-/// The document property with Excel's name `name`; error 5 if this host doesn't have it.
+/// The document property with Excel's name `name`; raises error 5 if this host doesn't have it.
 excel::Ref<excel::DocumentProperty> MakeDocumentProperty(Workbook& book, std::string_view name);
 
 }  // namespace plotsmith::xlsx

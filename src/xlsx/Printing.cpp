@@ -11,7 +11,7 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr std::string_view kPrintArea = "_xlnm.Print_Area";
-/// A formula is too short for more ranges than this.
+/// The maximum length of a formula allows no more ranges than this.
 constexpr std::size_t kMostAreas = 1000;
 
 /// Returns the ranges in a list such as "Sheet1!$A$1:$B$9,Sheet1!$D:$E"; other texts are skipped.

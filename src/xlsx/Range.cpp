@@ -79,7 +79,7 @@ class SheetRangeObject final : public excel::Range {
                {key1 ? key1->Address() : std::string(), order1, header, orderCustom, matchCase, orientation});
     // Custom lists and sorting by columns are not supported.
     const bool plain = orderCustom == 1 && orientation == excel::xlTopToBottom;
-    // Only the column of the key's cell counts. The cell may be a heading above the rows.
+    // Only the column of the key matters. The key may be a heading above the rows.
     const bool inside = column >= cells_.column1 && column <= cells_.column2;
     if (!plain || (order1 != excel::xlAscending && order1 != excel::xlDescending) ||
         (header != excel::xlYes && header != excel::xlNo)) {

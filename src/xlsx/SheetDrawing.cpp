@@ -42,7 +42,8 @@ std::shared_ptr<SheetShape> SheetDrawing::AddAnchor(const Frame& frame, const st
   return shapes_.emplace_back(std::move(shape));
 }
 
-// The number in a name is the id. Excel's own names rarely have it, because their number is one below the id.
+// The number in the name of a new shape is its id. Names that Excel gave rarely conflict with it, because
+// their number is one less than the id.
 
 std::shared_ptr<SheetShape> SheetDrawing::AddTextbox(const Frame& frame) {
   const unsigned id = NextShapeId(xml::Root(document_));

@@ -23,9 +23,10 @@ class SheetDrawing : public AnchoredShapes<SheetShape> {
   /// The name of the drawing part.
   const std::string& Part() const { return part_; }
 
-  /// Frames are in points from the upper left corner of the sheet.
+  /// Adds a text box. `frame` is in points from the upper left corner of the sheet.
   std::shared_ptr<SheetShape> AddTextbox(const Frame& frame);
-  /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
+  /// Adds an AutoShape. Its name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
+  /// `frame` is in points, like that of a text box.
   std::shared_ptr<SheetShape> AddAutoShape(std::string_view name, std::string_view preset,
                                            const Frame& frame);
   /// Adds a chart part without series, and the shape that contains the chart.

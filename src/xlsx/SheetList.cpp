@@ -24,14 +24,14 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// A sheet without cells: a chart sheet, a dialog, a macro sheet.
+/// A sheet without cells: a chart sheet, a dialog sheet or a macro sheet.
 class OtherSheet final : public SheetMembers<excel::Sheet> {
  public:
   using SheetMembers::SheetMembers;
 };
 
-/// The sheet states Excel's default row height, because other programs have another default, which would
-/// change the height of charts.
+/// Returns the XML of an empty sheet. It contains Excel's default row height, because the defaults of other
+/// programs differ and would change the height of charts.
 std::string EmptySheet(bool strict) {
   return std::string(kXmlDeclaration) + "<worksheet xmlns=\"" +
          std::string((strict ? kStrict : kTransitional).main) +
@@ -51,7 +51,7 @@ bool IsSheetName(std::string_view name) {
 void SheetList::Load() {
   std::map<std::string_view, const Relationship*> links;
   for (const Relationship& link : book_.Package().Relationships(part_.Name())) links.emplace(link.id, &link);
-  std::map<std::string_view, std::string_view> owners;  // names of sheets by part
+  std::map<std::string_view, std::string_view> owners;  // the names of sheets, by part
   for (const pugi::xml_node& node : xml::Children(xml::Child(part_.Root(), "sheets"), "sheet")) {
     auto entry = std::make_shared<SheetEntry>();
     entry->name = xml::Attribute(node, "name");
@@ -164,8 +164,8 @@ void SheetList::Remove(const SheetEntry& sheet) {
   part_.MarkChanged();
 }
 
-/// Local names and the views of the workbook refer to a sheet by its tab. The tabs from `position` on have
-/// moved by `step`.
+/// Updates local names and the views of the workbook, which refer to a sheet by its tab, after the tabs from
+/// `position` on have moved by `step`.
 void SheetList::RenumberTabs(std::size_t position, int step) {
   names_.FollowTabs(position, step);
   for (const pugi::xml_node& view : xml::Children(xml::Child(part_.Root(), "bookViews"), "workbookView")) {
@@ -206,8 +206,8 @@ void SheetList::SetVisible(SheetEntry& sheet, std::int32_t visible) {
 void SheetList::Activate(const SheetEntry& sheet) {
   const std::size_t position = PositionOf(sheet);
   if (position >= sheets_.size()) return;
-  // Excel can't activate a hidden sheet. But a file may be stored with a hidden sheet in front, and that one
-  // may be activated again.
+  // Excel can't activate a hidden sheet. However, the active sheet of a file may be hidden. That sheet can be
+  // activated again.
   const bool isHidden = sheet.object->Visible() != excel::xlSheetVisible;
   if (isHidden && sheets_[position] != opened_) {
     throw Refusal("Activate method of Worksheet class failed");

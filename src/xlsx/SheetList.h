@@ -75,11 +75,11 @@ class SheetList {
   BookPart& part_;
   NameList& names_;
   std::vector<std::shared_ptr<SheetEntry>> sheets_;
-  std::vector<std::shared_ptr<Worksheet>> worksheets_;  ///< of sheets_
+  std::vector<std::shared_ptr<Worksheet>> worksheets_;  ///< the sheets of sheets_ that have cells
   std::size_t active_ = 0;
   std::uint64_t activations_ = 0;
   std::shared_ptr<SheetEntry> opened_;  ///< the sheet that is active in the file
-  std::size_t followed_ = 0;            ///< the mark of the last row shifts that formulas have followed
+  std::size_t followed_ = 0;            ///< the mark up to which formulas have followed the row shifts
 };
 
 }  // namespace plotsmith::xlsx

@@ -21,7 +21,7 @@ namespace {
 
 double Points(pugi::xml_node node) { return xml::ParseDouble(xml::Text(node)).value_or(0) / kEmuPerPoint; }
 
-/// Returns the corner of an anchor. An offset beyond the end of its cell is cut off there.
+/// Returns the corner of an anchor. An offset that exceeds the size of its cell is limited to that size.
 std::pair<double, double> PlaceOf(pugi::xml_node marker, const SheetGeometry& geometry) {
   const auto edge = [&](std::string_view index, std::string_view offset, const GridLines& lines,
                         std::int32_t most) {
@@ -54,7 +54,7 @@ class SheetShapes final : public DrawnShapes {
     return drawing == nullptr ? 0 : static_cast<std::int32_t>(drawing->Shapes().size());
   }
   std::shared_ptr<DrawnShape> Group(const std::vector<std::shared_ptr<DrawnShape>>&) override {
-    // Only shapes on charts are grouped.
+    // This host groups only the shapes on charts.
     throw RuntimeError(runtime::error::kNoSuchMember);
   }
   const Journal& Log() const override { return sheet_.Book().Journal(); }

@@ -43,7 +43,8 @@ class Workbook final : public excel::Workbook,
 
   /// Returns true if Save would write other bytes than the opened file has.
   bool Changed() const;
-  /// Saves the workbook in the format of the extension. Throws PackageError; the file is unchanged then.
+  /// Saves the workbook in the format of the extension. If that fails, throws a PackageError and leaves the
+  /// file unchanged.
   void Save(const std::string& path);
   /// Saves to a stream. The workbook is complete before the stream gets its first byte.
   void Save(std::ostream& out);
@@ -96,7 +97,7 @@ class Workbook final : public excel::Workbook,
   SheetList sheets_{*this, Part(), names_};
   ChartParts charts_{*this, CompleteChart};
   excel::Ref<excel::Names> nameObjects_;  ///< made at the first use
-  std::uint64_t nameRevision_ = 0;        ///< of names_, when nameObjects_ was made
+  std::uint64_t nameRevision_ = 0;        ///< the revision of names_ when nameObjects_ was made
 };
 
 }  // namespace plotsmith::xlsx

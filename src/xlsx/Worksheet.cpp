@@ -39,7 +39,7 @@ void CheckCell(std::int32_t row, std::int32_t column) {
 /// Returns true if a part mentions a sheet on which rows have moved. A large part is read in pieces.
 bool PartMentions(const Package& package, const std::string& part, const RowShifts& shifts) {
   constexpr std::size_t kWindow = 256 * 1024,
-                        kOverlap = 256;  // longer than a sheet's name in any encoding
+                        kOverlap = 256;  // bytes; longer than a sheet's name in any encoding
   const auto stream = package.Stream(part);
   std::string window(kWindow, '\0');
   std::size_t kept = 0;
@@ -53,7 +53,7 @@ bool PartMentions(const Package& package, const std::string& part, const RowShif
   return false;
 }
 
-/// Returns the number of cells on a sheet if each row ended at its last cell.
+/// Returns the number of cells that a CellGrid needs for a sheet. Each row has cells up to its last one.
 std::size_t RoomOf(const CellStore& cells) {
   std::vector<std::int32_t> ends;
   for (std::int32_t column = 1; column <= cells.ColumnCount(); ++column) {
@@ -77,7 +77,8 @@ std::uint64_t NewVersion() {
   return ++last;
 }
 
-/// A number with a date format is a date from the first day of the date system to the last.
+/// Returns kDate for a number with a date format if the number is between the first and the last day of the
+/// date system; otherwise kNumber.
 CellValue::Kind NumberKind(Workbook& book, std::uint32_t style, double number) {
   const bool date =
       number >= 0 && number < kLastSerial + 1 - SerialOffset(book.Dates()) && book.Styles().IsDate(style);
@@ -156,7 +157,7 @@ std::uint32_t Worksheet::StyleAt(std::int32_t row, std::int32_t column) {
 
 CellValue Worksheet::CellValueAt(std::int32_t row, std::int32_t column) {
   CellValue value = Stored(row, column);
-  // The port counts days in the system of 1900 only.
+  // The port counts days in the 1900 date system only.
   if (value.kind == CellValue::Kind::kDate) value.number += SerialOffset(book_.Dates());
   return value;
 }
@@ -351,8 +352,8 @@ SheetDrawing* Worksheet::FindDrawing() {
       try {
         drawing_ = std::make_unique<SheetDrawing>(*this, link->target);
       } catch (const PackageError& e) {
-        // A drawing that can't be read doesn't stop the run unless it may have a chart. If the system
-        // didn't find a chart, it would treat it as deleted.
+        // A drawing that can't be read raises an error only if it may contain a chart. Without the error, the
+        // system would treat a chart that it doesn't find as deleted.
         if (package.Has(link->target) && MentionsChart(xml::ToUtf8(package.Read(link->target)))) throw;
         drawingDamage_ = e.what();
       }

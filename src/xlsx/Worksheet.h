@@ -64,14 +64,14 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   const std::vector<CellPlace>& FormulasWithoutResult() { return Contents().formulasWithoutResult; }
   /// Clears cells, including their styles.
   void ClearCells(const CellRange& range);
-  /// Sets the number format of cells. Error 1004 for an invalid code.
+  /// Sets the number format of cells. Raises error 1004 for an invalid code.
   void SetNumberFormat(const CellRange& range, std::string_view code);
   std::string NumberFormatAt(std::int32_t row, std::int32_t column) override;
-  /// Inserts a row. Row counts from 1; rows from there on move down.
+  /// Inserts a row above `row`, which counts from 1. This row and those below it move down.
   void InsertRow(std::int32_t row);
-  /// Deletes a row. Row counts from 1; the rows below it move up.
+  /// Deletes a row, counted from 1. The rows below it move up.
   void DeleteRow(std::int32_t row);
-  /// Sorts the rows of a range. Error 1004 on a sheet with merged cells.
+  /// Sorts the rows of a range. Raises error 1004 on a sheet with merged cells.
   void SortCells(const CellRange& range, const SortOptions& options);
   /// Row heights and column widths.
   const SheetGeometry& Geometry();
@@ -83,7 +83,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   void ActivateCell(const CellPlace& cell);
   /// The drawing of the sheet. Null if there is none, or if it contains no charts and can't be read.
   SheetDrawing* FindDrawing();
-  /// The drawing of the sheet, which is made if there is none. Error 1004 if it can't be read.
+  /// The drawing of the sheet, which is made if there is none. Raises error 1004 if it can't be read.
   SheetDrawing& EnsureDrawing();
 
   /// Changes a setting of the view in the workbook's first window.
@@ -105,7 +105,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
     if (sharedTexts_ == nullptr) sharedTexts_ = &book_.SharedStrings();
     return sharedTexts_->At(index);
   }
-  /// The cells for writing. Error 1004 on a sheet that this program may not write to.
+  /// The cells for writing. Raises error 1004 on a sheet that this program may not write to.
   CellGrid& Grid();
   excel::CellValue Unpack(PackedValue value, std::uint32_t style);
   /// The key of a cell for a text search.
@@ -114,7 +114,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// Discards the keys of cells that are about to change.
   void ForgetKeys(const CellRange& range);
 
-  /// Changes the XML of the part at once. `change` returns true if it has changed something. If the part
+  /// Changes the XML of the part immediately. `change` returns true if it has changed something. If the part
   /// lacks an element that the change needs, the workbook is damaged.
   void ChangePart(const std::function<bool(std::string& text)>& change);
 
@@ -123,9 +123,9 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   const TextPool* sharedTexts_ = nullptr;  ///< the workbook's; null until a cell refers to one
   std::optional<CellGrid> grid_;           ///< the changed cells; then contents_ has only the geometry
   bool gridChanged_ = false;
-  std::uint64_t version_;  ///< of the cells
+  std::uint64_t version_;  ///< the version of the cells
   std::optional<SheetGeometry> geometry_;
-  std::optional<CellPlace> activeCell_;  ///< since the file was read
+  std::optional<CellPlace> activeCell_;  ///< set since the file was read
   std::unique_ptr<SheetDrawing> drawing_;
   bool drawingSought_ = false;
   std::optional<std::string> drawingDamage_;  ///< why the sheet's drawing can't be read

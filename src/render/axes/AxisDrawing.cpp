@@ -16,7 +16,7 @@ namespace {
 constexpr double kMajorMark = 4, kMinorMark = 2.5;  // points
 constexpr std::size_t kMostMarks = 2000;
 
-/// Returns the places along an axis at its major units or between its categories, in points.
+/// Returns the positions of the major tick marks and gridlines along an axis, in points.
 std::vector<double> MajorPlaces(const AxisModel& axis, const AxisMap& map, xlsx::DateSystem dates) {
   std::vector<double> places;
   if (axis.IsOfValues()) {
@@ -32,7 +32,7 @@ std::vector<double> MajorPlaces(const AxisModel& axis, const AxisMap& map, xlsx:
   }
   const auto count = static_cast<long long>(axis.categories.size());
   const long long marks = axis.crossesBetween ? count + 1 : count;
-  constexpr double kNearest = 1.5;  // points between marks; nearer marks would merge
+  constexpr double kNearest = 1.5;  // points between tick marks; nearer ones would merge
   const double every = static_cast<double>(axis.tickSkip);
   const double multiple = std::ceil(kNearest / std::max(map.CategoryWidth() * every, 1e-9));
   const auto step = static_cast<long long>(std::min(every * std::max(multiple, 1.0), 1e9));
@@ -91,7 +91,7 @@ Point CenterOf(const AxisModel& axis, const TickLabels& labels, const TextBlock&
   const double outwards = back ? -1 : 1;
   const double width = block.TurnedWidth(), height = block.TurnedHeight();
   if (axis.IsUpright()) {
-    // Labels are aligned at the edge that faces the axis.
+    // The edges of labels that face the axis are aligned.
     return {place.labelsAt + outwards * (xlsx::kLabelGap + width / 2), along};
   }
   const double y = place.labelsAt + outwards * (xlsx::kLabelGap + height / 2);

@@ -6,7 +6,7 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kFarthest = 1e5;  // points; places farther away are moved to this one
+constexpr double kFarthest = 1e5;  // points; positions farther away are moved to this one
 constexpr std::size_t kMostTicks = 1000;
 constexpr double kDust = 1e-9;  // share of a unit that rounding may add or remove
 
@@ -25,7 +25,7 @@ AxisMap AxisMap::Along(const AxisModel& axis, const Rect& plot) {
 double AxisMap::Fraction(double value) const {
   const auto& scale = axis_.scale;
   if (!axis_.logBase) return (value - scale.minimum) / (scale.maximum - scale.minimum);
-  if (!(value > 0)) return -1;  // The place is below the axis.
+  if (!(value > 0)) return -1;  // The position is below the axis.
   return std::log(value / scale.minimum) / std::log(scale.maximum / scale.minimum);
 }
 
@@ -78,7 +78,7 @@ std::vector<Tick> MajorTicks(const AxisModel& axis, xlsx::DateSystem dates) {
     return ticks;
   }
   const double count = std::floor((scale.maximum - scale.minimum) / scale.majorUnit + kDust);
-  // If there are too many units, only every so many have a tick.
+  // If there are too many units, only some have a tick, at equal distances.
   const double every = std::max(std::ceil(count / static_cast<double>(kMostTicks - 1)), 1.0);
   for (double i = 0; i <= count && ticks.size() < kMostTicks; i += every) {
     double value = scale.minimum + i * scale.majorUnit;

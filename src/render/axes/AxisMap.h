@@ -17,11 +17,11 @@ class AxisMap {
   /// Makes the map of an axis along its side of a plot area.
   static AxisMap Along(const AxisModel& axis, const Rect& plot);
 
-  /// Returns the position of a value. It may be outside of the axis, but not so far that a painter would lose
-  /// digits.
+  /// Returns the position of a value. It may be outside of the axis, but is limited so that painters don't
+  /// lose precision.
   double OfValue(double value) const;
   /// Returns the middle of a category by its index, from 0. If the value axis crosses on categories, the
-  /// first and the last category are at the ends of the axis.
+  /// first and the last category are at the ends of the category axis.
   double OfCategory(double index) const;
   /// Returns the position of a slot by its index, from 0: a category, or a day, month or year of a date axis.
   /// The index may be a fraction.
@@ -30,7 +30,7 @@ class AxisMap {
   double OfX(double x) const;
   /// Returns the distance from one slot to the next, in points. It is never negative.
   double CategoryWidth() const;
-  /// Returns the position of zero, or of the end of the scale that is nearest to zero.
+  /// Returns the position of zero. If zero isn't on the scale, this is the end that is nearest to zero.
   double Base() const;
   /// The position at which the axis begins.
   double Low() const { return low_; }

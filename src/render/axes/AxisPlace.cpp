@@ -8,7 +8,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// Returns the place on the crossed axis where `axis` crosses it.
+/// Returns the position on the crossed axis at which `axis` crosses it.
 double CrossingOn(const AxisModel& crossed, const AxisModel& axis, const AxisMap& map) {
   if (crossed.IsOfValues()) return map.OfValue(CrossingValue(crossed, axis));
   if (axis.crosses == "max" && !axis.crossesAt) return map.High();
@@ -17,7 +17,7 @@ double CrossingOn(const AxisModel& crossed, const AxisModel& axis, const AxisMap
       crossed.dates ? crossed.dates->count : static_cast<double>(crossed.categories.size());
   const double count = std::max(categories, 1.0);
   const double number = std::clamp(axis.crossesAt.value_or(1), 1.0, count + (crossed.crossesBetween ? 1 : 0));
-  // If it crosses between categories, it crosses before the category with the number.
+  // If the axis crosses between categories, it does so before the category with the number.
   return map.OfSlot(number - 1 - (crossed.crossesBetween ? 0.5 : 0));
 }
 
@@ -70,7 +70,7 @@ AxisPlace PlaceOf(const ChartModel& chart, const AxisModel& axis, const Rect& pl
   }
   const AxisMap map = AxisMap::Along(*crossed, plot);
   place.at = CrossingOn(*crossed, axis, map);
-  constexpr double kClose = 0.5;  // points; an axis that is nearer to an edge lies on it
+  constexpr double kClose = 0.5;  // points; an axis that is nearer to an edge is on it
   const bool far = std::abs(place.at - EdgeOf(plot, Opposite(usual))) < kClose;
   place.side = far ? Opposite(usual) : usual;
   place.labelSide = place.side;

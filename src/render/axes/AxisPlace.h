@@ -8,9 +8,9 @@ namespace plotsmith::render {
 /// a vertical axis and Y coordinates of a horizontal one.
 struct AxisPlace {
   double at = 0;                 ///< The position of the line, in points.
-  Side side = Side::kLeft;       ///< The side of the line with the outer tick marks.
-  double labelsAt = 0;           ///< The position at which the gap before the labels begins, in points.
-  Side labelSide = Side::kLeft;  ///< The side of that position with the labels.
+  Side side = Side::kLeft;       ///< The side of the line on which the outer tick marks are.
+  double labelsAt = 0;           ///< The position of the gap before the labels, in points.
+  Side labelSide = Side::kLeft;  ///< The side of that position on which the labels are.
 };
 
 /// Returns the value at which a category axis crosses a value axis. The value is on the scale.

@@ -16,8 +16,8 @@ struct Span {
   double Middle() const { return (from + to) / 2; }
 };
 
-/// Returns the part of an axis from category `first` up to but not including `end`. It extends half of the
-/// way to the neighbouring categories.
+/// Returns the part of an axis from category `first` up to but not including `end`. It extends halfway to the
+/// neighbouring categories.
 Span SpanOf(const AxisModel& axis, const AxisMap& map, std::size_t first, std::size_t end) {
   const auto edge = [&](std::size_t index) {
     const double place = map.OfSlot(static_cast<double>(index) - 0.5);

@@ -9,8 +9,8 @@
 namespace plotsmith::render {
 
 /// Adds the texts of the outer levels, and the space that they take, to the labels of an axis. `length` is
-/// the length of the axis in points. Texts are shortened to the width of their group, or left out if nothing
-/// of them fits.
+/// the length of the axis in points. Texts are shortened to the width of their group, or left out if not even
+/// a part of them fits.
 void AddOuterLevels(const AxisModel& axis, double length, const TextMeasure& measure, TickLabels& labels);
 
 /// Draws the texts of the outer levels, and lines between the groups.

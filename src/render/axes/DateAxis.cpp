@@ -14,7 +14,7 @@ using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
 constexpr std::size_t kMostDates = 400;
-constexpr double kUsualTicks = 32;  // most ticks of an axis without a unit
+constexpr double kUsualTicks = 32;  // the maximum number of ticks on an axis without a unit
 
 /// The distance between two labels.
 struct Step {
@@ -52,7 +52,7 @@ Step StepOf(const DateSlots& slots) {
 }
 
 /// Returns the slot of a tick, which counts from 0. Steps of months and years keep the day of the month if
-/// they can.
+/// possible.
 long long TickSlot(const DateSlots& slots, const Step& step, long long index) {
   const auto count = static_cast<long long>(step.count) * index;
   if (slots.base == TimeUnit::kYears) return slots.first + count;

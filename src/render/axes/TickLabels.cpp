@@ -11,12 +11,12 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kGapEms = 0.3;        // between horizontal neighbours
-constexpr double kLineSpacing = 1.15;  // distance of turned or wrapped labels in line heights
-constexpr double kUnitSpacing = 1.25;  // distance of labels along a vertical axis of values in line heights
+constexpr double kGapEms = 0.3;        // between neighbouring horizontal labels
+constexpr double kLineSpacing = 1.15;  // distance between rotated or wrapped labels, in line heights
+constexpr double kUnitSpacing = 1.25;  // distance between labels along a vertical value axis, in line heights
 constexpr double kSlanted = -45, kUpwards = -90;
-constexpr double kShortEms = 2.6;            // Labels up to this width are skipped before they are turned.
-constexpr std::size_t kMostMeasured = 2000;  // labels of which the widths are measured
+constexpr double kShortEms = 2.6;            // Labels up to this width are skipped rather than rotated.
+constexpr std::size_t kMostMeasured = 2000;  // approximate number of labels whose widths are measured
 
 struct Sizes {
   double widest = 0, widestWord = 0, lineHeight = 0;
@@ -44,15 +44,15 @@ Sizes Measure(const std::vector<std::string>& texts, const TextStyle& style, con
   return sizes;
 }
 
-/// How labels are set: their rotation in degrees, the width at which they wrap, and every how many have a
-/// label.
+/// How labels are laid out: their rotation in degrees, the width at which they wrap in points, and the number
+/// of positions from one label to the next.
 struct Setting {
   double rotation = 0;
   double wrap = kUnlimited;
   double skip = 1;
 };
 
-/// Returns the distance that turned labels need along the axis.
+/// Returns the distance that rotated labels need along the axis.
 double NeededAlong(const Sizes& sizes, double rotation, double emGap) {
   const double sine = std::abs(std::sin(rotation * kRadian));
   if (sine < 0.05) return sizes.widest + emGap;
@@ -64,7 +64,7 @@ double SkipFor(double needed, double slot) {
   return std::max(std::ceil(needed / std::max(slot, 1e-6) - 1e-9), 1.0);
 }
 
-/// Returns the smallest multiple of the skip in the file with which labels don't touch.
+/// Returns the smallest multiple of the skip in the file at which labels don't touch.
 double MultipleFor(double given, double needed, double slot) {
   given = std::max(given, 1.0);
   return given * SkipFor(needed, slot * given);
@@ -148,7 +148,7 @@ void Shorten(TextBlock& block, double most, const TextMeasure& measure) {
 
 namespace {
 
-/// The texts along an axis with their places, which are values, or slots from 0.
+/// The texts along an axis with their positions, which are values, or slots from 0.
 struct AxisTexts {
   std::vector<std::string> texts;
   std::vector<double> places;
@@ -173,8 +173,8 @@ AxisTexts TextsAlong(const AxisModel& axis, xlsx::DateSystem dates) {
   return along;
 }
 
-/// Returns the shortest distance from one text to the next, in points. Distances differ if slots are days and
-/// steps are months.
+/// Returns the shortest distance from one text to the next, in points. The distances differ if slots are days
+/// and steps are months.
 double NarrowestSlot(const AxisModel& axis, const std::vector<double>& places, double length) {
   const double count = static_cast<double>(places.size());
   const bool onTicks = axis.IsOfValues() || !axis.crossesBetween;

@@ -11,7 +11,7 @@ namespace plotsmith::render {
 /// The label of a tick or category.
 struct TickLabel {
   int number = 1;         ///< The number of the tick or of the category, from 1.
-  double place = 0;       ///< The value, or the slot of the category or date, from 0.
+  double place = 0;       ///< The value; or the slot of the category or date, from 0.
   bool category = false;  ///< Whether `place` is a slot.
   TextBlock block;        ///< The text, broken into lines.
 };
@@ -27,7 +27,7 @@ struct LevelLabels {
   };
   /// The groups in the order of their categories.
   std::vector<Group> groups;
-  double from = 0;   ///< The distance of the level from the gap beside the axis, in points.
+  double from = 0;   ///< The distance from the gap beside the axis to the level, in points.
   double depth = 0;  ///< The extent of the level across the axis, in points.
 };
 
@@ -53,8 +53,8 @@ TickLabels LayOutTickLabels(const AxisModel& axis, double length, double depth, 
 /// Shortens a label of one line to `most` points. It then ends in dots, or is empty if the dots don't fit.
 void Shorten(TextBlock& block, double most, const TextMeasure& measure);
 
-/// Increases the major unit of a value axis until its labels fit along `length` points. A unit that a
-/// person set isn't changed.
+/// Increases the major unit of a value axis until its labels fit along `length` points. A unit that the user
+/// set isn't changed.
 void FitMajorUnit(AxisModel& axis, double length, xlsx::DateSystem dates, const TextMeasure& measure);
 
 }  // namespace plotsmith::render

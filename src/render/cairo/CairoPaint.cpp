@@ -75,8 +75,8 @@ void SetPattern(cairo_t* cr, const PatternFill& fill, const PatternTile& tile) {
   cairo_matrix_t matrix;
   cairo_matrix_init_scale(&matrix, 1 / kPatternPixel, 1 / kPatternPixel);
   cairo_pattern_set_matrix(pattern.get(), &matrix);
-  // If a pattern's pixel is a whole number of the picture's pixels, it stays sharp. Otherwise its pixels
-  // would have different sizes, and are smoothed.
+  // If the edge of a pattern's pixel is a whole number of the picture's pixels, the pattern is drawn sharp.
+  // Otherwise its pixels would have different sizes, so they are smoothed.
   double scale = kPatternPixel, unused = 0;
   cairo_user_to_device_distance(cr, &scale, &unused);
   const bool whole = std::abs(scale - std::round(scale)) < 0.01 && scale > 0.5;

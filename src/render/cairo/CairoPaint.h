@@ -26,8 +26,8 @@ using Context = std::unique_ptr<cairo_t, DestroyContext>;
 /// Makes an outline the current path.
 void Trace(cairo_t* cr, const Path& path);
 
-/// Makes a filling the source of the next painting. `bounds` is the rectangle around the filled path. Returns
-/// false if there is no filling.
+/// Makes a fill the source of the next painting. `bounds` is the rectangle around the filled path. Returns
+/// false if there is no fill.
 bool SetSource(cairo_t* cr, const Fill& fill, const Rect& bounds);
 
 }  // namespace plotsmith::render

@@ -36,8 +36,8 @@ void SetStroke(cairo_t* cr, const Stroke& stroke) {
                                                             : CAIRO_LINE_JOIN_MITER);
 }
 
-/// A long line is stroked in pieces, because Cairo searches all of a line for crossings at once, which takes
-/// minutes for thousands of corners. Neighbouring pieces share a step, so that their joint isn't visible.
+/// Strokes a long line in pieces. Cairo searches a whole line for crossings at once, which takes minutes if
+/// it has thousands of corners. Neighbouring pieces share a step, so that their joint isn't visible.
 void StrokeInPieces(cairo_t* cr, const Path& path) {
   constexpr std::size_t kPiece = 12;
   const auto& steps = path.Steps();
@@ -82,7 +82,7 @@ class ItemPainter {
   void Draw(const Item& item) {
     const auto* path = std::get_if<PathItem>(&item.content);
     const auto* clip = std::get_if<PushClip>(&item.content);
-    // Markers keep their shape and their place on the line.
+    // Markers keep their shape and their position on the line.
     if (pixels_ && path != nullptr && item.tag.role != Role::kMarker && IsUpright(path->path)) {
       DrawOnPixels(*path);
     } else if (pixels_ && clip != nullptr && IsUpright(clip->path)) {

@@ -19,9 +19,9 @@ void Paint(cairo_t* cr, const Drawing& drawing, const CairoFonts& fonts);
 /// Returns the bytes of a PNG picture on a white background, which are the same on every run. Throws
 /// std::length_error if the picture would have no pixel or more than a hundred million.
 std::string MakePng(const Drawing& drawing, const CairoFonts& fonts, double dpi = 96);
-/// Returns the pixels of the same picture, with the same errors.
+/// Returns the pixels of the picture that MakePng encodes. Throws the same exception.
 Raster MakeRaster(const Drawing& drawing, const CairoFonts& fonts, double dpi = 96);
-/// Begins a PDF document without a page. The fonts must outlive it.
+/// Begins a PDF document without a page. `fonts` must outlive it.
 std::unique_ptr<PdfDocument> NewPdf(const CairoFonts& fonts);
 /// Returns the bytes of a PDF document with a page for each drawing, which are the same on every run.
 std::string MakePdf(std::span<const Drawing> pages, const CairoFonts& fonts);

@@ -11,7 +11,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// Paints area and line of a shadow as they are, so that they don't add up where they lie on each other.
+/// Paints the area and the line of a shadow in opaque black. Where they overlap, the shadow isn't darker.
 void PaintForm(cairo_t* cr, const ShadowItem& item) {
   cairo_set_source_rgba(cr, 0, 0, 0, 1);
   Trace(cr, item.path);
@@ -27,13 +27,13 @@ void SetColor(cairo_t* cr, const Color& color) {
   cairo_set_source_rgba(cr, color.red / 255.0, color.green / 255.0, color.blue / 255.0, color.alpha);
 }
 
-/// Bytes in rows.
+/// The bytes of a mask in rows.
 struct Mask {
   unsigned char* data;
   int width, height, stride;
 };
 
-/// Replaces each byte of a line by the mean of those around it.
+/// Replaces each byte of a line by the mean of the bytes up to `reach` away.
 void AverageLine(unsigned char* line, int count, std::ptrdiff_t step, int reach,
                  std::vector<unsigned char>& scratch) {
   const int width = 2 * reach + 1;
@@ -47,10 +47,10 @@ void AverageLine(unsigned char* line, int count, std::ptrdiff_t step, int reach,
   }
 }
 
-/// Blurs with means over three widths, which together come close to a normal distribution.
+/// Blurs with means in three passes, which together approximate a normal distribution.
 void Blur(const Mask& mask, double deviation) {
   constexpr int kPasses = 3;
-  // the variance of a mean over 2r + 1 pixels is r(r + 1) / 3
+  // The variance of a mean over 2r + 1 pixels is r(r + 1) / 3.
   const int reach =
       std::max(static_cast<int>(std::lround((std::sqrt(1 + 4 * deviation * deviation) - 1) / 2)), 1);
   std::vector<unsigned char> scratch(static_cast<std::size_t>(std::max(mask.width, mask.height)));
@@ -62,7 +62,7 @@ void Blur(const Mask& mask, double deviation) {
   }
 }
 
-/// What of the shadow with its soft edge may be seen; empty if nothing.
+/// Returns the rectangle in which a shadow with its soft edge may be visible; empty if it is invisible.
 Rect SeenOf(cairo_t* cr, const ShadowItem& item, double reach) {
   const Rect bounds = item.path.Bounds();
   const double around = reach + item.lineWidth;
@@ -75,8 +75,8 @@ Rect SeenOf(cairo_t* cr, const ShadowItem& item, double reach) {
   return right > left && bottom > top ? Rect{left, top, right - left, bottom - top} : Rect();
 }
 
-/// Pixels for a point: those of the picture, or enough for a page. The softer the edge, the fewer show it. No
-/// edge of the mask has more than Cairo allows.
+/// Returns the number of the mask's pixels in a point: that of the picture, or enough for a page. Softer
+/// edges need fewer pixels. The mask isn't larger than Cairo allows.
 double ResolutionOf(cairo_t* cr, const Rect& seen, double deviation) {
   constexpr double kLeast = 2, kMostPixels = 1e7, kLongestEdge = 32'000, kOfDeviation = 4;
   double across = 1, down = 0;
@@ -87,7 +87,7 @@ double ResolutionOf(cairo_t* cr, const Rect& seen, double deviation) {
 }
 
 void PaintSoft(cairo_t* cr, const ShadowItem& item) {
-  constexpr double kReach = 3;  // standard deviations, beyond which a soft edge isn't seen
+  constexpr double kReach = 3;  // standard deviations beyond which a soft edge is invisible
   const Rect seen = SeenOf(cr, item, kReach * item.blur);
   if (!(seen.width > 0)) return;
   const double scale = ResolutionOf(cr, seen, item.blur);

@@ -6,7 +6,7 @@ typedef struct _cairo cairo_t;
 
 namespace plotsmith::render {
 
-/// Paints a shadow. A soft edge is made of pixels, also on a page.
+/// Paints a shadow. A soft edge is painted as pixels, even in a PDF document.
 void PaintShadow(cairo_t* cr, const ShadowItem& item);
 
 }  // namespace plotsmith::render

@@ -13,7 +13,7 @@ struct PixelScale {
 /// Returns true if all steps of an outline are horizontal or vertical.
 bool IsUpright(const Path& path);
 /// Returns the outline with its corners moved to the edges of pixels, or to their middles if its line is an
-/// odd number of pixels wide. Lines and edges then aren't blurred, and shapes that touch have no seam between
+/// odd number of pixels wide. Then lines and edges aren't blurred, and shapes that touch have no seam between
 /// them.
 Path OnPixels(const Path& path, const PixelScale& scale, double strokeWidth);
 /// Returns the width in points that is nearest to a whole number of pixels, and at least one pixel.

@@ -13,7 +13,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// The level of ISA-L. The next level takes six times as long, and pictures of charts don't become smaller.
+/// The level of ISA-L. The next level takes six times as long, and doesn't make pictures of charts smaller.
 constexpr std::uint32_t kCompression = 2;
 constexpr std::size_t kCompressionBuffer = ISAL_DEF_LVL2_DEFAULT;
 

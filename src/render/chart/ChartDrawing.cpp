@@ -68,7 +68,7 @@ void DrawGroup(Plot& plot, const GroupModel& group) {
   }
 }
 
-/// Hides the axes of a radar chart, which draws them by itself.
+/// Hides the axes of a chart that has only radar groups, or no groups. A radar chart draws its axes itself.
 void HideAxesWithoutGroups(ChartModel& chart) {
   const auto isRadar = [](const GroupModel& group) { return group.family == Family::kRadar; };
   const bool hides = std::all_of(chart.groups.begin(), chart.groups.end(), isRadar);
@@ -81,7 +81,7 @@ void HideAxesWithoutGroups(ChartModel& chart) {
   }
 }
 
-/// Notes fillings and effects that aren't drawn.
+/// Adds notes about fills and effects that aren't drawn.
 void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part, const RareLooks& looks) {
   const auto isMissing = [&](pugi::xml_node node) { return !IsDrawableImage(Palette(part).Picture(node)); };
   if (std::any_of(looks.pictures.begin(), looks.pictures.end(), isMissing)) {
@@ -92,7 +92,7 @@ void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part, const RareLooks& lo
   for (std::string& sentence : MissingEffects(looks)) canvas.Note(std::move(sentence));
 }
 
-/// Notes elements of a chart that aren't drawn.
+/// Adds notes about elements of a chart that aren't drawn.
 void NoteMissing(Canvas& canvas, const ChartModel& chart) {
   const auto has = [](pugi::xml_node node, std::string_view local) {
     return bool(xlsx::xml::Child(node, local));
@@ -120,7 +120,7 @@ void NoteMissing(Canvas& canvas, const ChartModel& chart) {
 
 void DrawPlot(Plot& plot, const ChartLayout& layout) {
   const ChartModel& chart = plot.chart;
-  if (chart.groups.empty()) return;  // A chart without data shows nothing of its plot area.
+  if (chart.groups.empty()) return;  // A chart without data doesn't show its plot area.
   AddFrame(plot.canvas, {Role::kPlotArea}, plot.area, chart.plotArea);
   for (const AxisModel& axis : chart.axes) DrawGridlines(plot.canvas, chart, axis, plot.area);
   for (const GroupModel& group : chart.groups) DrawGroup(plot, group);
@@ -151,7 +151,7 @@ void DrawTitles(Canvas& canvas, const ChartModel& chart, const ChartLayout& layo
 
 UndrawnChart::UndrawnChart(xlsx::ChartPart& part, double width, double height, Notes& notes)
     : part_(&part), width_(width), height_(height), chart_(std::make_unique<ChartModel>()) {
-  part.Theme();  // The theme is read when it is first asked for, which is no work for several threads.
+  part.Theme();  // The theme is read at its first use, which only one thread may do.
   *chart_ = ReadChart(part, notes);
   HideAxesWithoutGroups(*chart_);
   looks_ = std::make_unique<RareLooks>(FindRareLooks(part.Space()));

@@ -15,8 +15,8 @@ namespace plotsmith::render {
 struct ChartModel;
 struct RareLooks;
 
-/// A chart that was read, and isn't drawn yet. Reading uses the workbook, which all charts share, so one
-/// thread reads all charts. Drawing uses only the chart, so each chart can be drawn by another thread.
+/// A chart that was read, but isn't drawn yet. Reading uses the workbook, which all charts share, so one
+/// thread reads all charts. Drawing uses only the chart, so different threads can draw different charts.
 class UndrawnChart {
  public:
   /// Reads a chart that will be drawn at a size in points. The values come from the caches in the chart part,
@@ -24,7 +24,7 @@ class UndrawnChart {
   /// Adds a sentence to `notes` about everything that isn't drawn. Raises error 1004 if the chart can't be
   /// read.
   UndrawnChart(xlsx::ChartPart& part, double width, double height, Notes& notes);
-  /// Moves the chart. The other object can then only be assigned to or destroyed.
+  /// Moves the chart. After that, the other object can only be assigned to or destroyed.
   ///@{
   UndrawnChart(UndrawnChart&&) noexcept;
   UndrawnChart& operator=(UndrawnChart&&) noexcept;
@@ -32,7 +32,7 @@ class UndrawnChart {
   ~UndrawnChart();
 
   /// Returns true if drawing reads other parts of the workbook: pictures, or shapes on the chart. Such a
-  /// chart must be drawn by the thread that reads.
+  /// chart must be drawn by the thread that reads the charts.
   bool NeedsWorkbook() const;
   /// Draws the chart. This can be done only once. Adds a sentence to `notes` about everything that isn't
   /// drawn.

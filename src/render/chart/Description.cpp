@@ -5,7 +5,7 @@
 namespace plotsmith::render {
 namespace {
 
-// The points of all series together. A screen reader would read more for too long.
+// The maximum number of points of all series together. More would take a screen reader too long.
 constexpr std::size_t kMostDescribed = 200;
 
 const char* KindName(const GroupModel& group) {

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double kHalfCap = 3;  // points
 
-/// A place from its coordinates along and across the axis of categories.
+/// Returns a point from its coordinates along and across the category axis.
 Point PlaceAt(bool isUpright, double along, double across) {
   return isUpright ? Point{along, across} : Point{across, along};
 }
@@ -50,7 +50,7 @@ void ErrorBarPainter::DrawBar(const BarPoint& point, const ErrorBars& bars) {
     upright = !upright;
   } else {
     const double whole = wholes_.empty() ? 1 : wholes_[point.index];
-    const double unit = whole > 0 ? 1 / whole : 0;  // A whole of zero has no shares.
+    const double unit = whole > 0 ? 1 / whole : 0;  // If the whole is zero, there are no shares.
     low = map.OfValue(point.value + from * unit);
     high = map.OfValue(point.value + to * unit);
   }
@@ -105,7 +105,7 @@ class TrendPath {
     Finish();
     return std::move(path_);
   }
-  /// The last place in the plot area, or its centre if there is none.
+  /// Returns the last point of the path in the plot area, or the centre of the plot area if there is none.
   Point Last() const { return last_.value_or(area_.Center()); }
 
  private:
@@ -116,10 +116,10 @@ class TrendPath {
     return PlaceAt(values_.IsUpright(), acrossMap_.OfX(point.x - line_.shift), valueMap_.OfValue(point.y));
   }
 
-  /// How a place lies along the axis of values.
+  /// The position of a point along the value axis, relative to the plot area.
   enum class Where : std::uint8_t { kNowhere, kBefore, kNear, kBehind };
 
-  /// Returns kNear in the plot area and just beyond its edges, and kNowhere where the curve has no place.
+  /// Returns kNear in the plot area and just beyond its edges, and kNowhere where the curve has no point.
   Where WhereIs(const std::optional<Point>& place) const {
     constexpr double kBeyond = 20;  // points
     if (!place) return Where::kNowhere;
@@ -130,7 +130,8 @@ class TrendPath {
   }
   Where WhereIs(const TrendCurve& curve, double x) const { return WhereIs(PlaceOf({x, curve.At(x)})); }
 
-  /// The place nearest to where a curve leaves what is near, between an x that is near and one that isn't.
+  /// Returns the point at which a curve leaves the area of kNear, between the X value `near` inside it and
+  /// the X value `far` outside.
   Point EndBetween(const TrendCurve& curve, double near, double far) const {
     constexpr int kHalvings = 50;
     for (int i = 0; i < kHalvings; ++i) {
@@ -140,7 +141,7 @@ class TrendPath {
     return *PlaceOf({near, curve.At(near)});
   }
 
-  /// Adds a steep piece of a curve that goes from one side of what is near to the other.
+  /// Adds a steep piece of a curve that crosses the area of kNear from one side to the other.
   void AddCrossing(const TrendCurve& curve, double from, double to) {
     constexpr int kHalvings = 50;
     const Where begin = WhereIs(curve, from);
@@ -157,7 +158,8 @@ class TrendPath {
     }
   }
 
-  /// Adds what may be seen of a curve. Places far beyond the edges would be moved, and bend it.
+  /// Adds the part of a curve that may be visible. Points far beyond the edges would be moved, which would
+  /// bend the curve.
   void AddPartSeen(const TrendCurve& curve) {
     Where last = Where::kNowhere;
     std::optional<double> before;
@@ -200,7 +202,7 @@ class TrendPath {
   std::optional<Point> last_;
 };
 
-/// Draws the label above the end of its line, or as far from there as a layout by hand says.
+/// Draws the label of a trendline above the end of the line, or where its manual layout places it.
 void DrawLabel(Plot& plot, Tag tag, const Trendline& line, Point end) {
   constexpr double kGap = 4, kPadding = 2;  // points
   const TextBlock block = LayOut(line.label, plot.canvas.Measure());

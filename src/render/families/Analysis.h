@@ -16,9 +16,9 @@ class ErrorBarPainter {
   /// Adds a point. `along` is its position along the category axis or the axis of X values, and `value` is
   /// its value. If the values are stacked, `value` is the sum up to the point.
   void Add(const SeriesModel& series, std::size_t point, double along, double value);
-  /// Draws the bars of the points so far.
+  /// Draws the error bars of the points that were added.
   void Draw();
-  /// Draws the bars of the points so far, clipped to the plot area.
+  /// Draws the error bars of the points that were added, clipped to the plot area.
   void DrawClipped();
 
  private:
@@ -32,7 +32,7 @@ class ErrorBarPainter {
   Plot& plot_;
   const GroupModel& group_;
   std::vector<double>
-      wholes_;  ///< The sums of the points, which are 100 percent; empty if values aren't shares.
+      wholes_;  ///< The sum of each point, which is 100 percent; empty if values aren't shares.
   std::vector<BarPoint> points_;
 };
 

@@ -10,7 +10,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// The upper and the lower border of an area, both from its first point to its last.
+/// The upper and the lower border of an area, both from its first point to its last one.
 struct AreaBorders {
   std::vector<Point> upper, lower;
 };
@@ -52,7 +52,7 @@ class AreaPainter {
   }
 
  private:
-  /// Stacks a series, which counts from 0, and keeps its points for their labels and drop lines.
+  /// Stacks a series, by its index `s` from 0, and keeps its points for their labels and drop lines.
   AreaBorders PlacePoints(std::size_t s) {
     const SeriesModel& series = group_.series[s];
     AreaBorders borders;
@@ -89,7 +89,7 @@ class AreaPainter {
   const AxisMap categories_, values_;
   const Extents extents_;
   const double base_;
-  std::vector<double> pile_;  ///< top of the stack at each point, in values
+  std::vector<double> pile_;  ///< the top of the stack at each point, as a value
   std::vector<DropLine> dropLines_;
   ErrorBarPainter bars_;
 };

@@ -15,15 +15,15 @@ namespace {
 
 /// How the bars of a category share its width.
 struct BarSlots {
-  double width = 0;   ///< of a bar, in points
-  double step = 0;    ///< from a bar to that of the next series, in points
+  double width = 0;   ///< the width of a bar, in points
+  double step = 0;    ///< the distance from a bar to that of the next series, in points
   double offset = 0;  ///< from the middle of the category to the edge of its first bar, in points
 };
 
 BarSlots SlotsOf(const GroupModel& group, double categoryWidth) {
   const double count = group.IsStacked() ? 1 : static_cast<double>(group.series.size());
   const double overlap = group.IsStacked() ? 1 : group.overlap / 100;
-  // This is the width of a category in widths of bars, because the gap is a share of the width of a bar.
+  // The width of a category as a multiple of the width of a bar. The gap is a share of the width of a bar.
   const double widths = 1 + (count - 1) * (1 - overlap) + group.gapWidth / 100;
   BarSlots slots;
   slots.width = categoryWidth / widths;

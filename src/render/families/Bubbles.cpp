@@ -13,7 +13,7 @@ constexpr double kLargest =
     0.25;  // diameter at a scale of 100 percent, as a share of the plot area's shorter side
 
 double SizeOf(const SeriesModel& series, std::size_t point) {
-  if (series.sizes.empty()) return 1;  // Bubbles without sizes are equal.
+  if (series.sizes.empty()) return 1;  // Bubbles without sizes are equally large.
   return point < series.sizes.size() ? series.sizes[point] : 0;
 }
 

@@ -4,7 +4,7 @@
 
 namespace plotsmith::render {
 
-// Each of these functions draws the series of a group, and keeps the points that have labels.
+// Each of these functions draws the series of a group, and adds the points that have labels to Plot::points.
 
 /// Draws bars or columns.
 void DrawBars(Plot& plot, const GroupModel& group);
@@ -20,7 +20,7 @@ void DrawBubbles(Plot& plot, const GroupModel& group);
 void DrawRadar(Plot& plot, const GroupModel& group);
 /// Draws a pie or a doughnut in the middle of the plot area. A pie leaves space for labels outside of it.
 void DrawPie(Plot& plot, const GroupModel& group);
-/// Draws a pie of pie or a bar of pie: a pie, and a second plot at its right, which shows the parts of one of
+/// Draws a pie of pie or a bar of pie: a pie, and a second plot to its right that shows the parts of one of
 /// its slices.
 void DrawOfPie(Plot& plot, const GroupModel& group);
 

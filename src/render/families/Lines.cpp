@@ -35,18 +35,19 @@ std::vector<std::vector<Point>> Pieces(const std::vector<LinePoint>& points, boo
   return pieces;
 }
 
-/// A style without its filling.
+/// A style without its fill.
 ShapeStyle LineStyle(ShapeStyle style) {
   style.fill = {};
   return style;
 }
 
-/// Draws the line piecewise where points have strokes of their own. Neighbours of one stroke are one path.
+/// Draws a line whose points have strokes of their own. Neighbouring segments with the same stroke are one
+/// path.
 void DrawSegments(Plot& plot, const SeriesModel& series, const std::vector<LinePoint>& points) {
   const LinePoint* previous = nullptr;
   const ShapeStyle* style = nullptr;
   std::vector<Point> run;
-  int last = 0;  // number of the last point in the run, from 1
+  int last = 0;  // the number of the last point in the run, from 1
   const auto finish = [&] {
     if (run.size() > 1) {
       Path path;
@@ -89,8 +90,8 @@ void DrawLineOf(Plot& plot, const SeriesModel& series, const std::vector<LinePoi
   plot.canvas.PopClip();
 }
 
-/// Leaves out markers of dense series that would nearly cover others, which means within a third of their
-/// size.
+/// Leaves out markers of dense series that would nearly cover others. The area is divided into squares with
+/// edges of a third of a marker, and one marker is drawn in each.
 class MarkerPlaces {
  public:
   explicit MarkerPlaces(std::size_t points) : isDense_(points > kDense) {}
@@ -129,7 +130,7 @@ void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& serie
   }
 }
 
-/// Draws a line in each category from its greatest value to the place `end`, or to its least value.
+/// Draws a line in each category from its greatest value to the position `end`, or to its least value.
 void DrawUprights(Plot& plot, const AxisModel& axis, const AxisMap& values, const Extents& extents,
                   std::size_t count, const Stroke& stroke, std::optional<double> end = {}) {
   const AxisMap categories = AxisMap::Along(axis, plot.area);
@@ -165,7 +166,7 @@ void DrawLines(Plot& plot, const GroupModel& group) {
   }
   DrawUpDownBars(plot, group, extents);
   ErrorBarPainter bars(plot, group);
-  std::vector<double> pile(group.PointCount());  // A blank in a stack is drawn on the series below it.
+  std::vector<double> pile(group.PointCount());  // A missing value is drawn on the series below it.
   for (std::size_t s = 0; s < group.series.size(); ++s) {
     const SeriesModel& series = group.series[s];
     std::vector<LinePoint> points;

@@ -12,7 +12,7 @@ namespace plotsmith::render {
 namespace {
 
 /// The slices of both plots. The last slice of the first plot is that of the point "Other", which is in the
-/// middle of the right side. The shares of the second plot are those in the sum of all points.
+/// middle of the right side. The shares in the second plot are shares of the sum of all points.
 struct SplitSlices {
   std::vector<DrawnPoint> first, second;
 };
@@ -36,7 +36,7 @@ SplitSlices Split(const GroupModel& group, const SeriesModel& series) {
   return slices;
 }
 
-/// The sizes of both plots in radii of the first one.
+/// The sizes of both plots, in radii of the first one.
 struct Proportions {
   double firstWidth = 2, firstHeight = 2, secondWidth = 0, secondHeight = 0, gap = 0;
 
@@ -66,7 +66,7 @@ std::vector<DrawnPoint> PiecesOf(std::vector<DrawnPoint> slices, const Rect& bar
   return slices;
 }
 
-/// Returns the width that the labels of a bar take at its right, in points.
+/// Returns the width that the labels of a bar take to its right, in points.
 double WidthOfLabels(const Plot& plot, const std::vector<DrawnPoint>& pieces) {
   double width = 0;
   for (const DrawnPoint& piece : pieces) {
@@ -124,7 +124,7 @@ class OfPiePainter {
   }
 
  private:
-  /// Returns the radius of the first plot with which both plots fit into a rectangle. The gap between them is
+  /// Returns the radius of the first plot at which both plots fit into a rectangle. The gap between them is
   /// at least `between` points wide.
   double RadiusIn(const Rect& room, double between) const {
     const double pies = sizes_.firstWidth + sizes_.secondWidth;

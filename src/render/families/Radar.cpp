@@ -15,7 +15,7 @@ namespace {
 
 constexpr double kWebGap = 3;         // points between a spoke or the web and its label
 constexpr double kWidestLabel = 0.3;  // share of the plot area
-constexpr double kLeastWeb = 0.3;     // smallest share of the radius that labels leave
+constexpr double kLeastWeb = 0.3;     // the minimum share of the radius that labels leave
 constexpr std::size_t kMostSpokes = 1000;
 
 /// Returns the direction of a spoke as a vector of length 1. The first spoke goes up, the others follow
@@ -118,7 +118,7 @@ class Web {
     return places;
   }
 
-  /// Lays out the labels around the web, and sets the radius that they leave.
+  /// Lays out the labels around the web, and sets the radius to what they leave.
   void MeasureLabels() {
     const Rect& area = plot_.area;
     const double whole = std::min(area.width, area.height) / 2;
@@ -131,7 +131,7 @@ class Web {
       Shorten(block, kWidestLabel * area.width, plot_.canvas.Measure());
       const Point way{std::abs(DirectionOf(i, count_).x), std::abs(DirectionOf(i, count_).y)};
       const auto limit = [&](double share, double half, double extent) {
-        constexpr double kFlat = 0.05;  // Labels of spokes along this side need no room at it.
+        constexpr double kFlat = 0.05;  // Labels of spokes parallel to this side need no space there.
         if (share > kFlat) radius_ = std::min(radius_, (half - extent / 2) / share - extent / 2 - kWebGap);
       };
       limit(way.x, area.width / 2, block.TurnedWidth());

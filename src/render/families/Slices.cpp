@@ -63,7 +63,7 @@ std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& ser
 
 std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& series,
                                  const std::vector<std::size_t>& points) {
-  // Values are shares of the greatest one, because their sum may be infinite.
+  // The values are divided by the greatest one, because their sum may be infinite.
   double most = 0, whole = 0, sum = 0;
   for (const std::size_t i : points) {
     if (std::isfinite(series.values[i])) most = std::max(most, std::abs(series.values[i]));

@@ -7,10 +7,10 @@
 
 namespace plotsmith::render {
 
-/// The smallest share of the radius of a pie that labels outside of it leave.
+/// The minimum radius to which labels outside of a pie can reduce it, as a share of the full radius.
 inline constexpr double kLeastRadius = 0.3;
 
-/// Returns how far the farthest of some slices is moved outwards, in radii.
+/// Returns the largest distance by which one of the slices is moved outwards, in radii.
 double FarthestExplosion(const std::vector<DrawnPoint>& slices);
 
 /// Returns the slices of all points of a series, in a circle of radius 1 around the origin.
@@ -20,13 +20,13 @@ std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& ser
 std::vector<DrawnPoint> SlicesOf(const GroupModel& group, const SeriesModel& series,
                                  const std::vector<std::size_t>& points);
 
-/// The room that labels outside of a circle take, in points.
+/// The space that labels outside of a circle take, in points.
 struct LabelRoom {
-  double left = 0;    ///< At the left of the circle.
-  double right = 0;   ///< At its right.
-  double height = 0;  ///< Above it, and as much below it.
+  double left = 0;    ///< To the left of the circle.
+  double right = 0;   ///< To its right.
+  double height = 0;  ///< Above it, and the same below it.
 };
-/// Returns the room that the labels of slices take outside of a circle with a radius in points.
+/// Returns the space that the labels of slices take outside of a circle. `radius` is in points.
 LabelRoom RoomForLabels(const Plot& plot, const std::vector<DrawnPoint>& slices, double radius);
 
 /// A circle or a ring.
@@ -34,12 +34,12 @@ struct Ring {
   Point center;          ///< In points.
   double radius = 0;     ///< The outer radius in points.
   double hole = 0;       ///< The inner radius as a share of the outer one; 0 for a circle.
-  bool explodes = true;  ///< Whether slices are moved outwards as their points say.
+  bool explodes = true;  ///< Whether slices are moved outwards by the explosion of their points.
 
   /// Returns the rectangle around the circle that a slice is part of.
   Rect CircleOf(const DrawnPoint& slice) const;
 };
-/// Draws slices, and keeps them for their labels.
+/// Draws slices, and adds those with labels to Plot::points.
 void DrawSlices(Plot& plot, std::vector<DrawnPoint> slices, const Ring& ring);
 
 }  // namespace plotsmith::render

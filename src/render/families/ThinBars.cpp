@@ -6,7 +6,7 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kColumn = 0.5;  // points, which are less than a pixel
+constexpr double kColumn = 0.5;  // points; less than a pixel
 
 /// Returns whether a rectangle hides another, except for a part that is too thin to be visible.
 bool Hides(const Rect& front, const Rect& back) {

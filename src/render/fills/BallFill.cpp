@@ -25,7 +25,7 @@ Fill AsBall(const Fill& fill) {
   GradientFill ball;
   ball.radial = true;
   ball.focus = {0.35, 0.3};
-  // The farthest point of the circle is at three quarters of the way from the focus to the farthest corner.
+  // The farthest point of the circle is three quarters of the way from the focus to the farthest corner.
   ball.stops = {
       {0, Towards(solid->color, 255, kHighlight)}, {0.3, solid->color}, {0.8, Lit(solid->color, kShadow)}};
   return ball;

@@ -4,8 +4,8 @@
 
 namespace plotsmith::render {
 
-/// Returns a filling that makes a circle look like a ball which is lit from the upper left. Only solid
-/// fillings are changed; other fillings are returned as they are.
+/// Returns a fill that makes a circle look like a ball that is lit from the upper left. Only solid fills are
+/// changed; other fills are returned as they are.
 Fill AsBall(const Fill& fill);
 
 }  // namespace plotsmith::render

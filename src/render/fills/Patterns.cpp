@@ -10,8 +10,8 @@ struct PatternEntry {
   PatternTile tile;
 };
 
-// Patterns that are named after percentages have evenly spread dots, as near to the percentage as the tile
-// allows.
+// Patterns that are named after percentages have evenly spread dots. The share of the dots is as near to the
+// percentage as the tile allows.
 // clang-format off
 constexpr PatternEntry kPatterns[] = {
     {"cross",      {0xFF, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80}},

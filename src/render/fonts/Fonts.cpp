@@ -19,7 +19,7 @@ namespace plotsmith::render {
 namespace {
 
 constexpr std::size_t kMostTexts = 8000;
-constexpr std::size_t kLongestText = 4096;  // bytes that are laid out; longer texts don't fit on any chart
+constexpr std::size_t kLongestText = 4096;  // bytes; the rest doesn't fit on any chart
 
 /// Returns true if an installed font fulfils a condition. FcFontList would copy the names of all fonts first.
 bool HasFont(const std::function<bool(FcPattern*)>& isWanted) {
@@ -33,7 +33,7 @@ bool HasFont(const std::function<bool(FcPattern*)>& isWanted) {
   return found;
 }
 
-/// Returns true if a font has this name among the names of its family. Upper and lower case are the same.
+/// Returns true if one of the names of a font's family is `family`, ignoring case.
 bool IsOfFamily(FcPattern* font, const std::string& family) {
   const auto* const wanted = reinterpret_cast<const FcChar8*>(family.c_str());
   FcChar8* name = nullptr;
@@ -55,12 +55,13 @@ struct FreeGlyphs {
 using Layout = std::unique_ptr<PangoLayout, Release>;
 using Description = std::unique_ptr<PangoFontDescription, FreeDescription>;
 
-/// Returns a context that loads fonts with FreeType. A new map has 72 dots per inch. To set that, or to turn
-/// off hinting, which doesn't change widths that aren't rounded, would make Pango list the families of all
-/// fonts.
+/// Returns a context that loads fonts with FreeType. A new map has 72 dots per inch. Setting that, or turning
+/// hinting off, would make Pango list the families of all fonts. Hinting doesn't change widths that aren't
+/// rounded.
 PangoContext* NewFreeTypeContext() {
-  FcInit();  // Pango starts a thread for this. A thread that needs the fonts meanwhile would read them as
-             // well.
+  // Otherwise Pango initializes Fontconfig in a thread of its own. Another thread that needs the fonts
+  // meanwhile would read them a second time.
+  FcInit();
   const std::unique_ptr<PangoFontMap, Release> map(pango_ft2_font_map_new());
   return pango_font_map_create_context(map.get());
 }
@@ -71,13 +72,13 @@ struct FontHash {
     return std::hash<std::string>()(font.family) ^ (std::hash<double>()(font.size) * 8 + look);
   }
 };
-/// Hashes texts, so that a known text can be found without a copy of it.
+/// Hashes texts. A known text can be found without copying it.
 struct TextHash {
   using is_transparent = void;
   std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
 };
 
-/// Returns whether a text has only printable ASCII characters, and so is laid out unchanged.
+/// Returns whether a text has only printable ASCII characters, and is therefore laid out unchanged.
 bool IsPlain(std::string_view text) {
   return text.size() <= kLongestText && std::all_of(text.begin(), text.end(), [](char byte) {
            return byte >= 0x20 && static_cast<unsigned char>(byte) < 0x80;
@@ -111,7 +112,7 @@ struct FontEntry {
 };
 
 struct Fonts::State {
-  std::mutex mutex;  ///< Pango's objects are for one thread at a time.
+  std::mutex mutex;  ///< Only one thread at a time may use Pango's objects.
   std::unique_ptr<PangoContext, Release> context;
   std::unordered_map<Font, FontEntry, FontHash> fonts;
   std::pair<const Font, FontEntry>* recent = nullptr;
@@ -131,8 +132,8 @@ struct Fonts::State {
     return layout;
   }
 
-  /// Reads ascent and descent as Windows defines them: the clipping heights of the font, and the part of its
-  /// line gap that they don't contain.
+  /// Reads the ascent and the descent as Windows defines them: the clipping heights of the font, and the part
+  /// of its line gap that these don't contain.
   void MeasureHeight(FontEntry& entry, double size) const {
     hb_font_t* font = entry.font ? pango_font_get_hb_font(entry.font.get()) : nullptr;
     int scale = 0;
@@ -178,7 +179,7 @@ struct Fonts::State {
   }
 
   /// Returns the width of a plain text in Pango's units, or nothing if the font doesn't have all of its
-  /// characters. The text is one run of glyphs then, and a layout, which takes longer, has the same width.
+  /// characters. Such a text is one run of glyphs. A layout would give the same width, but takes longer.
   std::optional<int> WidthOfRun(const std::string& text, const FontEntry& entry) const {
     if (text.empty() || !IsPlain(text) || !entry.font) return std::nullopt;
     const bool hasLetters = std::any_of(text.begin(), text.end(), ascii::IsLetter);

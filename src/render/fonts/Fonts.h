@@ -12,8 +12,9 @@ typedef struct _PangoLayoutLine PangoLayoutLine;
 namespace plotsmith::render {
 
 /// Measures texts with the installed fonts, using Pango. A font that isn't installed is replaced by its
-/// substitute. Hinting and the rounding of widths are off, so that results depend on the font files alone.
-/// Fonts and texts are cached. Several threads may use one object; it works for one of them at a time.
+/// substitute. Hinting and the rounding of widths are turned off, so that the results depend only on the font
+/// files. Fonts and texts are cached. Several threads may use the same object, which serves one of them at a
+/// time.
 class Fonts : public TextMeasure {
  public:
   /// Makes an object with empty caches. It loads the fonts with FreeType.

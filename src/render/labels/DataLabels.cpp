@@ -12,10 +12,10 @@ namespace plotsmith::render {
 namespace {
 
 constexpr double kGap = 1.5;          // points between a point and the label beside it
-constexpr double kKeySide = 6;        // points, the edge of a legend key beside a label
-constexpr double kWidestShare = 0.2;  // share of the chart's width at which labels wrap
+constexpr double kKeySide = 6;        // points; the edge of a legend key beside a label
+constexpr double kWidestShare = 0.2;  // share of the chart's width; labels wrap at this width
 
-/// Half of the width and height of a label with its padding.
+/// Half of the width and of the height of a label with its padding.
 struct Half {
   double width, height;
 };
@@ -30,7 +30,7 @@ Point CenterAtBar(const Plot& plot, const DrawnPoint& point, const std::string& 
   const bool flat = IsFlat(plot, point);
   const AxisModel* axis = plot.ValueAxisOf(*point.group);
   const bool reversed = axis != nullptr && axis->reversed;
-  // This is the direction from the base of the bar to its end.
+  // The direction from the base of the bar to its end.
   const double way = (point.negative != reversed ? -1 : 1) * (flat ? 1.0 : -1.0);
   const Point center = box.Center();
   const double reach = flat ? box.width / 2 : box.height / 2, depth = flat ? half.width : half.height;
@@ -51,7 +51,7 @@ Point CenterAtMarker(const DrawnPoint& point, const std::string& position, Half 
   return center;
 }
 
-/// Returns the centre of a label beside a point of a radar chart, on the outer side.
+/// Returns the centre of a label on the outer side of a point in a radar chart.
 Point CenterOutwards(const DrawnPoint& point, Point middle, Half half) {
   const Point center = point.box.Center();
   const double x = center.x - middle.x, y = center.y - middle.y, distance = std::hypot(x, y);
@@ -60,8 +60,8 @@ Point CenterOutwards(const DrawnPoint& point, Point middle, Half half) {
           center.y + way.y * (point.box.height / 2 + half.height)};
 }
 
-/// Returns how far the centre of a box can be from the middle of a circle, in a direction, with the box
-/// inside.
+/// Returns the largest distance, in a direction, from the middle of a circle to the centre of a box that is
+/// still inside the circle.
 double FarthestInside(Half half, double degrees, double radius) {
   const double b = std::abs(std::sin(degrees * kRadian)) * half.width +
                    std::abs(std::cos(degrees * kRadian)) * half.height;
@@ -89,7 +89,8 @@ Point CenterBesideSlice(const DrawnPoint& point, Half half, double degrees) {
 Point CenterInSlice(const DrawnPoint& point, Half half, std::string position) {
   const double middle = point.angle + point.sweep / 2;
   const double radius = point.circle.width / 2;
-  // In 3-D the circle is an ellipse. Labels are compared with the circle as if they were stretched with it.
+  // In 3-D, the circle is an ellipse. The label is stretched until the ellipse is a circle, and then compared
+  // with it.
   const double flat = point.circle.width > 0 ? point.circle.height / point.circle.width : 1;
   const Half round{half.width, half.height / std::max(flat, 1e-6)};
   if (position == "bestFit")
@@ -130,7 +131,7 @@ Point CenterOf(const Plot& plot, const DrawnPoint& point, const LabelModel& labe
   }
 }
 
-/// Whether a line crosses the circle of a slice.
+/// Returns true if a line crosses the circle of a slice.
 bool CrossesCircle(const Rect& circle, Point from, Point to) {
   const Point middle = circle.Center();
   constexpr int kSamples = 32;
@@ -144,7 +145,8 @@ bool CrossesCircle(const Rect& circle, Point from, Point to) {
   return false;
 }
 
-/// A straight line, or one that goes round the circle as far as it would cross it.
+/// Returns a straight line. If it would cross the circle, the line first goes around the circle as far as
+/// necessary.
 Path LeaderPath(const DrawnPoint& point, Point from, Point to) {
   constexpr double kAside = 2, kStep = 4, kMostTurn = 180;  // points and degrees
   const Rect& circle = point.circle;
@@ -165,7 +167,7 @@ Path LeaderPath(const DrawnPoint& point, Point from, Point to) {
   return path.LineTo(to);
 }
 
-/// The line from a slice to a label that was moved away from it.
+/// Draws the leader line from a slice to a label that was moved away from it.
 void DrawLeader(Plot& plot, const PlacedLabel& placed) {
   const DrawnPoint& point = *placed.point;
   const LabelsModel& labels = point.series->labels;
@@ -183,7 +185,8 @@ void DrawLeader(Plot& plot, const PlacedLabel& placed) {
                   labels.leaderStroke);
 }
 
-/// Lays out a label at its position, or as its layout says, and keeps it on the chart.
+/// Lays out a label at its automatic position, or where its manual layout places it. The label stays on the
+/// chart.
 PlacedLabel PlaceLabel(const Plot& plot, const DrawnPoint& point, const LabelModel& label) {
   const RichText text = LabelText(plot.chart, *point.group, *point.series, point.index, label, point.share);
   PlacedLabel placed{&point, &label};

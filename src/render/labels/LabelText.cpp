@@ -27,7 +27,8 @@ std::string CategoryText(const ChartModel& chart, const GroupModel& group, const
   return point < group.categories.size() ? group.categories[point] : "";
 }
 
-/// Returns a percentage. It has the label's format unless that is for a value in the same label.
+/// Returns a percentage in the label's number format. If this is General, or if the label also shows a value,
+/// which then has this format, the format is 0%.
 std::string PercentText(const ChartModel& chart, const LabelModel& label, double share) {
   static const FormatPointer kPercent = xlsx::NumberFormat::Parse("0%");
   const bool ownFormat = label.format && !label.showsValue && !label.format->IsGeneral();

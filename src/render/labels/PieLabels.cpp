@@ -12,7 +12,7 @@ constexpr double kSliceGap = 1.5;   // points between a slice and the label besi
 constexpr double kRounding = 1e-6;  // points that rounding may add
 constexpr double kSlack = 0.01;     // points by which labels may touch
 
-/// Returns whether a label may be moved. It may if it is outside of its slice, at an automatic place.
+/// Returns whether a label may be moved. It may if it is outside of its slice, at an automatic position.
 bool IsMovable(const PlacedLabel& label) {
   const Family family = label.point->group->family;
   const bool isPie = family == Family::kPie || family == Family::kOfPie;
@@ -28,10 +28,10 @@ double MiddleOf(const DrawnPoint& slice) {
 
 bool IsRight(const PlacedLabel& label) { return MiddleOf(*label.point) < 180; }
 
-/// Labels below each other that touch.
+/// Labels that are one below the other and touch.
 struct Cluster {
   std::size_t first, count;
-  double wanted;  ///< sum of the tops of the cluster with which each label would be at its own place
+  double wanted;  ///< the sum of the cluster tops that would leave each label at its own position
   double height;
 };
 
@@ -72,7 +72,7 @@ void MoveBeside(PlacedLabel& label, const Rect& room, double lineRoom) {
     label.center.x = middle + way * distance;
     return IsBesideSlice(*label.point, label.Box());
   };
-  // The label doesn't cover the line that goes up or down to it.
+  // The label must not cover the line that goes up or down to it.
   const double edge = OnEllipse(label.point->circle, MiddleOf(*label.point)).x;
   double near = label.halfWidth + kSliceGap + way * (edge - middle);
   double far = label.halfWidth + label.point->circle.width / 2;
@@ -94,8 +94,9 @@ bool OverlapsAny(const PlacedLabel& label, const std::vector<PlacedLabel*>& othe
   });
 }
 
-/// Removes the labels of the smallest slices until the others fit into the height. Of slices of equal size,
-/// multiples of the golden ratio choose the labels, so that the remaining ones are spread evenly.
+/// Removes the labels of the smallest slices until the others fit into the height. If slices have equal
+/// sizes, multiples of the golden ratio determine which labels are removed, so that the remaining ones are
+/// spread evenly.
 void RemoveLabelsWithoutSpace(std::vector<PlacedLabel*>& side, double height) {
   struct Candidate {
     double share, turn;
@@ -119,12 +120,12 @@ void RemoveLabelsWithoutSpace(std::vector<PlacedLabel*>& side, double height) {
   std::erase_if(side, [](const PlacedLabel* label) { return label->leftOut; });
 }
 
-/// Returns where moved labels may be: in the plot area, or on the whole chart if a person set the plot area.
+/// Returns where moved labels may be: in the plot area, or on the whole chart if the user set the plot area.
 Rect RoomOf(const Plot& plot) { return plot.chart.layout ? plot.canvas.Bounds() : plot.area; }
 
-/// Returns the room for a leader line to a label that was moved by a distance, in points.
+/// Returns the space for a leader line to a label that was moved by `way`. Both are in points.
 double LineRoomFor(double way) {
-  constexpr double kShare = 0.3, kMost = 12;  // of the distance; points
+  constexpr double kShare = 0.3, kMost = 12;  // share of the distance; points
   return std::min(kShare * way, kMost);
 }
 
@@ -161,7 +162,7 @@ bool IsBesideSlice(const DrawnPoint& point, const Rect& label) {
 
 namespace {
 
-/// Moves the labels beside a bar of pie, which are at its right, so that they don't touch.
+/// Moves the labels to the right of a bar of pie so that they don't touch.
 void SpreadBesideBar(std::vector<PlacedLabel*> labels, const Rect& room) {
   std::stable_sort(labels.begin(), labels.end(),
                    [](const PlacedLabel* a, const PlacedLabel* b) { return a->center.y < b->center.y; });

@@ -25,8 +25,8 @@ struct PlacedLabel {
   Rect Box() const { return {center.x - halfWidth, center.y - halfHeight, 2 * halfWidth, 2 * halfHeight}; }
 };
 
-/// Returns true if a label doesn't cover the circle of its slice, the ellipse and the rim of a pie in 3-D, or
-/// the rectangle of its point in a bar of pie.
+/// Returns true if a label doesn't cover its point: the circle of its slice, the ellipse and the rim of a pie
+/// in 3-D, or the rectangle in a bar of pie.
 bool IsBesideSlice(const DrawnPoint& point, const Rect& label);
 
 /// Moves labels outside of pies so that they don't touch. They stay on their side of the circle and in the

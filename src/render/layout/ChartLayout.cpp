@@ -43,7 +43,8 @@ Rect Without(const Rect& rect, const Edges& edges) {
           rect.height - edges.top - edges.bottom};
 }
 
-/// Returns a rectangle that has at least the least share of the chart. It is moved to stay in `room`.
+/// Returns a rectangle enlarged to at least the minimum share of the chart, and moved so that it stays in
+/// `room`.
 Rect KeepLeast(Rect rect, const Rect& bounds, const Rect& room) {
   const auto keep = [](double& from, double& extent, double least, double end) {
     if (extent >= least) return;
@@ -55,7 +56,7 @@ Rect KeepLeast(Rect rect, const Rect& bounds, const Rect& room) {
   return rect;
 }
 
-/// Returns the rectangle of an element with a layout that a person set. `rect` is the automatic one.
+/// Returns the rectangle of an element with a layout that the user set. `rect` is the automatic one.
 Rect Applied(const ManualLayout& layout, const Rect& bounds, Rect rect) {
   const auto apply = [](std::optional<double> place, bool isEdge, std::optional<double> extent,
                         bool extentIsEdge, double whole, double& from, double& length) {
@@ -67,7 +68,7 @@ Rect Applied(const ManualLayout& layout, const Rect& bounds, Rect rect) {
   return rect;
 }
 
-/// Places a title around a point, or as its layout says.
+/// Places a title around a point, or where its manual layout places it.
 PlacedTitle PlaceTitle(const TitleModel& title, TextBlock block, Point center, const Rect& bounds) {
   PlacedTitle placed;
   const double width = block.TurnedWidth() + kTitlePadding, height = block.TurnedHeight() + kTitlePadding;
@@ -118,7 +119,7 @@ class Layouter {
     free_.height -= taken;
   }
 
-  /// Lays out the titles of axes, and adds up the room that they take.
+  /// Lays out the titles of axes, and adds up the space that they take.
   void MeasureAxisTitles() {
     for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
       const AxisModel& axis = chart_.axes[i];
@@ -160,7 +161,8 @@ class Layouter {
     }
   }
 
-  /// Fits the plot area and the labels around it. The labels affect its size, which affects the labels.
+  /// Fits the plot area and the labels around it. The labels affect the size of the plot area, which in turn
+  /// affects the labels.
   void FitPlot(bool inner) {
     for (int pass = 0; pass < 3; ++pass) {
       const Rect before = layout_.plot;
@@ -171,7 +173,7 @@ class Layouter {
     }
   }
 
-  /// Gives the axis above a data table without room the labels that the table would have replaced.
+  /// If there is no space for the data table, gives its axis the labels that the table would have replaced.
   void RestoreTickLabels() {
     AxisModel& axis = chart_.axes[static_cast<std::size_t>(chart_.table->axis)];
     axis.tickLabels = chart_.table->tickLabels;
@@ -234,7 +236,7 @@ class Layouter {
     second = std::max(second, behind);
   }
 
-  /// Ends slanted labels below an axis in dots where they would begin outside of the chart.
+  /// Shortens slanted labels below an axis that would begin outside of the chart. They end in dots.
   void ShortenSlanted() {
     for (std::size_t i = 0; i < chart_.axes.size(); ++i) {
       const AxisModel& axis = chart_.axes[i];
@@ -267,10 +269,10 @@ class Layouter {
     }
   }
 
-  /// The part of an axis that a title is beside.
+  /// The part of an axis beside which a title is.
   enum class Along : std::uint8_t { kMiddle, kEnd };
 
-  /// Puts a title outside of the labels of its axis.
+  /// Places a title on the outer side of the labels of its axis.
   void PlaceBeside(const AxisModel& axis, const TitleModel& title, Side side, Along along, Edges& used,
                    PlacedTitle& placed) {
     const Rect& plot = layout_.plot;
@@ -292,7 +294,7 @@ class Layouter {
   ChartLayout layout_;
   Rect free_;
   Edges titles_, rooms_;
-  bool isTableTooNarrow_ = false;  ///< the data table had no room in any pass
+  bool isTableTooNarrow_ = false;  ///< whether the data table had too little space in a pass
 };
 
 }  // namespace

@@ -18,7 +18,7 @@ struct PlacedTitle {
   Rect box;  ///< The rectangle of the text with its padding.
 };
 
-/// The elements beside an axis. Title and display units are absent if the axis has none.
+/// The elements beside an axis. The title and the display units are absent if the axis has none.
 struct AxisLayout {
   /// The tick labels.
   TickLabels labels;
@@ -26,7 +26,8 @@ struct AxisLayout {
   std::optional<PlacedTitle> title, units;
 };
 
-/// The positions of the elements of a chart. Title, legend and data table are absent if the chart has none.
+/// The positions of the elements of a chart. The title, legend and data table are absent if the chart has
+/// none.
 struct ChartLayout {
   /// The title, within the chart area.
   std::optional<PlacedTitle> title;

@@ -13,11 +13,11 @@ namespace plotsmith::render {
 namespace {
 
 constexpr double kTextPadding = 2;     // points between a text and the edges of its cell
-constexpr double kKeyWidth = 18;       // points of a legend key with the gap behind it
-constexpr double kRowSpacing = 1.2;    // height of a row in line heights
+constexpr double kKeyWidth = 18;       // points; the width of a legend key with the gap after it
+constexpr double kRowSpacing = 1.2;    // the height of a row, in line heights
 constexpr double kMostHeight = 0.5;    // share of the chart's height
 constexpr double kMostOfNames = 0.3;   // share of the chart's width
-constexpr std::size_t kMostLines = 3;  // lines of a category
+constexpr std::size_t kMostLines = 3;  // the maximum number of lines in the text of a category
 constexpr std::size_t kMostCells = 20'000;
 
 std::vector<const SeriesModel*> SeriesOf(const ChartModel& chart) {
@@ -41,7 +41,8 @@ const AxisModel& AxisOf(const ChartModel& chart) {
   return chart.axes[static_cast<std::size_t>(chart.table->axis)];
 }
 
-/// A category in as many lines as a cell has.
+/// Returns the text of a category. A text with more lines than a cell has becomes one line, which is
+/// shortened.
 TextBlock CategoryBlock(const std::string& text, const TextStyle& style, double width,
                         const TextMeasure& measure) {
   TextBlock block = LayOut(text, style, measure, width);
@@ -130,7 +131,7 @@ class TablePainter {
   }
 
  private:
-  /// The column of a category: along a reversed axis they go from right to left.
+  /// Returns the column of a category. Along a reversed axis, the categories go from right to left.
   std::size_t ColumnOf(std::size_t category) const {
     const AxisModel& axis = AxisOf(chart_);
     return 1 + (axis.reversed ? axis.categories.size() - 1 - category : category);
@@ -158,7 +159,7 @@ class TablePainter {
     PaintText({Role::kTableText, series.number}, series.name, cell);
   }
 
-  /// The lines between the cells, and around them but for the empty corner.
+  /// Draws the lines between the cells, and the outline around them without the empty corner.
   void PaintLines() {
     const auto& [columns, rows, leftOut, isTooNarrow] = layout_;
     const double left = columns.front(), inner = columns[1], right = columns.back();

@@ -12,8 +12,8 @@ namespace plotsmith::render {
 namespace {
 
 constexpr double kFramePadding = 4;     // points between the frame and its entries
-constexpr double kSquareEms = 0.55;     // edge of a key with a filling
-constexpr double kLineKeyEms = 2.0;     // length of a key with a line
+constexpr double kSquareEms = 0.55;     // the edge of a square key
+constexpr double kLineKeyEms = 2.0;     // the length of a line key
 constexpr double kKeyGapEms = 0.4;      // between a key and its text
 constexpr double kEntryGapEms = 0.9;    // between entries side by side
 constexpr double kRowGapEms = 0.12;     // between rows
@@ -28,8 +28,8 @@ struct Measured {
   TextBlock text;
 };
 
-/// Returns the entries in their order. It is reversed in a legend beside stacked columns, so that they are in
-/// the order of the stack.
+/// Returns the entries in their order. The order is reversed in a legend beside stacked columns, so that the
+/// entries are in the order of the stack.
 std::vector<const LegendEntry*> InOrder(const ChartModel& chart, bool upright) {
   std::vector<const LegendEntry*> entries;
   for (const LegendEntry& entry : chart.legend->entries) entries.push_back(&entry);
@@ -60,8 +60,8 @@ void Place(LegendLayout& layout, const Grid& grid, Measured& measured, double le
   layout.entries.push_back(std::move(placed));
 }
 
-/// The room for a legend. If a person set its size, it shows at least one entry and may be narrower than its
-/// texts.
+/// The space for a legend. If the user set its size, the legend shows at least one entry, and may be narrower
+/// than its texts.
 struct Limits {
   double width = 0, height = 0;
   bool byHand = false;
@@ -98,7 +98,7 @@ void PlaceInColumns(LegendLayout& layout, const Grid& grid, std::vector<Measured
 struct Columns {
   bool oneRow;
   std::size_t count;
-  double width;  ///< of a column, in points
+  double width;  ///< the width of a column, in points
 };
 
 Columns ColumnsFor(const Grid& grid, const std::vector<Measured>& entries, double room) {
@@ -136,7 +136,7 @@ void PlaceInRows(LegendLayout& layout, const Grid& grid, std::vector<Measured>& 
   }
 }
 
-/// Applies a layout that a person set. It moves the legend, and may set its size.
+/// Applies a layout that the user set. It moves the legend, and may set its size.
 void ApplyLayout(const ManualLayout& layout, const Rect& bounds, Rect& box) {
   if (layout.x) box.left = layout.xIsEdge ? *layout.x * bounds.width : box.left + *layout.x * bounds.width;
   if (layout.y) box.top = layout.yIsEdge ? *layout.y * bounds.height : box.top + *layout.y * bounds.height;
@@ -150,7 +150,7 @@ void ApplyLayout(const ManualLayout& layout, const Rect& bounds, Rect& box) {
   }
 }
 
-/// Moves the box to its side of the free rectangle, which loses the room of the box.
+/// Moves the box to its side of the free rectangle, and removes the space of the box from that rectangle.
 void Dock(const LegendModel& legend, Rect& box, Rect& free) {
   const std::string& side = legend.position;
   box.left = side == "l" ? free.left : free.Right() - box.width;
@@ -172,7 +172,7 @@ void Dock(const LegendModel& legend, Rect& box, Rect& free) {
   }
 }
 
-/// Returns the room for a legend at its side of the chart, or in a box that a person set.
+/// Returns the space for a legend at its side of the chart, or in a box that the user set.
 Limits LimitsOf(const LegendModel& legend, const Rect& bounds, const Rect& free) {
   if (legend.layout && legend.layout->width && legend.layout->height) {
     Rect box;
@@ -200,7 +200,7 @@ std::vector<Measured> MeasureEntries(const std::vector<const LegendEntry*>& orde
   return entries;
 }
 
-/// Moves the legend to its box, or as a layout says that a person set, and the entries to the middle of it.
+/// Moves the legend to its box, or to its manual layout, and moves the entries to the middle of the legend.
 void Settle(LegendLayout& layout, const LegendModel& legend, const Rect& bounds, Rect box) {
   if (legend.layout) {
     ApplyLayout(*legend.layout, bounds, box);

@@ -19,7 +19,7 @@ struct PlacedEntry {
 struct LegendLayout {
   Rect box;                          ///< The frame.
   std::vector<PlacedEntry> entries;  ///< The entries for which there is enough space.
-  std::size_t leftOut = 0;           ///< The number of the other entries.
+  std::size_t leftOut = 0;           ///< The number of entries without enough space.
 };
 
 /// Lays out the legend of a chart. `free` is the space inside the margins and below the title. It is reduced

@@ -26,7 +26,7 @@ struct ErrorBars {
   Stroke stroke;
 };
 
-/// The kind of a trendline (ST_TrendlineType).
+/// The type of a trendline (ST_TrendlineType).
 enum class TrendKind : std::uint8_t {
   kLinear,
   kLogarithmic,
@@ -36,12 +36,12 @@ enum class TrendKind : std::uint8_t {
   kMovingAverage
 };
 
-/// A curve that fits points by least squares. Every kind of curve is a polynomial: of x or of its logarithm,
-/// for the value or for its logarithm.
+/// A curve that is fitted to points by least squares. Every kind of curve is a polynomial of x or of its
+/// logarithm. The polynomial gives the value or its logarithm.
 class TrendCurve {
  public:
-  /// Makes a curve. `coefficients` belong to the powers of (u - center) / scale from 0, where u is x or its
-  /// logarithm.
+  /// Makes a curve. `coefficients` are those of the powers of (u - center) / scale, from the power 0 on,
+  /// where u is x or its logarithm.
   TrendCurve(TrendKind kind, std::vector<double> coefficients, double center, double scale)
       : kind_(kind), coefficients_(std::move(coefficients)), center_(center), scale_(scale) {}
 
@@ -51,10 +51,10 @@ class TrendCurve {
   TrendKind Kind() const { return kind_; }
   /// Returns true if the curve has values only for positive X values.
   bool NeedsPositiveX() const { return kind_ == TrendKind::kLogarithmic || kind_ == TrendKind::kPower; }
-  /// Returns the factors of u^0, u^1 and so on of the polynomial, where u is x or its logarithm.
+  /// Returns the coefficients of u^0, u^1 and so on in the polynomial, where u is x or its logarithm.
   std::vector<double> Factors() const;
-  /// Returns the value of the polynomial at `u`, which is x or its logarithm. It is the value of the curve or
-  /// the logarithm of that value.
+  /// Returns the value of the polynomial at `u`, which is x or its logarithm. The result is the value of the
+  /// curve or the logarithm of that value.
   double TermAt(double u) const;
 
   /// The share of the variance that the curve explains (R squared).
@@ -73,7 +73,7 @@ class TrendCurve {
 std::optional<TrendCurve> FitTrend(TrendKind kind, std::size_t order, std::optional<double> intercept,
                                    const std::vector<double>& x, const std::vector<double>& y);
 
-/// Returns the equation of a curve, as Excel writes it. Exponents are raised digits, or follow a caret.
+/// Returns the equation of a curve, as Excel writes it. Exponents are superscript digits, or follow a caret.
 /// `format` formats the numbers.
 std::string EquationOf(const TrendCurve& curve, const std::function<std::string(double)>& format);
 /// Returns a number as Excel shows it in an equation, with five digits or with an exponent.

@@ -18,20 +18,22 @@ namespace {
 
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 constexpr Stroke kThinLine = {Color{0, 0, 0, 1}, 0.75};
-constexpr long long kLongestPeriod = 255;  // points of a moving average
-constexpr double kMostFittedPoints = 4e6;  // points that all trendlines of a chart use
+constexpr long long kLongestPeriod = 255;  // the maximum number of points in the period of a moving average
+constexpr double kMostFittedPoints = 4e6;  // the maximum for all trendlines of a chart together; see CostOf
 
 void AddOnce(Notes& notes, const std::string& sentence) {
   if (std::find(notes.begin(), notes.end(), sentence) == notes.end()) notes.push_back(sentence);
 }
 
-/// What of a series counts as x for a trendline, and what is taken from that for the number along the axis.
+/// The X values of a series for a trendline, and the number that is subtracted from them to get the number
+/// along the axis.
 struct TrendPlaces {
   std::vector<double> x;
   double shift = 0;
 };
 
-/// X values, the numbers of dates, or the numbers of categories from 1.
+/// Returns the X values of a series for a trendline: its own X values, serial numbers of dates, or the
+/// numbers of categories from 1.
 TrendPlaces PlacesOf(const ChartModel& chart, const GroupModel& group, const SeriesModel& series) {
   TrendPlaces places;
   const AxisModel* axis =
@@ -51,7 +53,7 @@ TrendPlaces PlacesOf(const ChartModel& chart, const GroupModel& group, const Ser
   return places;
 }
 
-/// Mean and standard deviation of a sample; NaN without one.
+/// The mean, the standard deviation and the standard error of a sample; NaN if there is no sample.
 struct Spread {
   double mean = kNothing, deviation = kNothing, error = kNothing;
 };
@@ -75,7 +77,7 @@ Spread SpreadOf(const std::vector<double>& numbers) {
   return {sum / count * most, deviation, deviation / std::sqrt(count)};
 }
 
-/// Amounts by hand, of which a single one is that of all points.
+/// Returns the custom amount of a point. If there is only one amount, it applies to all points.
 double CustomAmount(const std::vector<double>& amounts, std::size_t point) {
   if (amounts.size() == 1) return amounts.front();
   return point < amounts.size() ? amounts[point] : kNothing;
@@ -101,7 +103,7 @@ ErrorBars ReadErrorBars(ReadingContext& context, pugi::xml_node node, const Seri
     if (kind == "percentage") up = std::abs(numbers[i]) * amount / 100;
     if (kind == "stdErr") up = spread.error;
     if (kind == "stdDev") {
-      // Bars of the standard deviation have the mean as their middle, not the points.
+      // Bars of the standard deviation are centred at the mean, and not at the points.
       up = spread.deviation * amount;
       middle = spread.mean - numbers[i];
     }
@@ -126,7 +128,7 @@ TrendKind KindOf(const std::string& name) {
   return name == "movingAvg" ? TrendKind::kMovingAverage : TrendKind::kLinear;
 }
 
-/// The name that Excel gives a trendline.
+/// Returns the name that Excel gives a trendline without a name of its own.
 std::string AutomaticName(const Trendline& line, const std::string& series) {
   const auto kind = [&]() -> std::string {
     switch (line.kind) {
@@ -148,7 +150,8 @@ std::string AutomaticName(const Trendline& line, const std::string& series) {
   return kind() + " (" + series + ")";
 }
 
-/// The means of so many points up to each, where all of them have a number.
+/// Adds the points of a moving average: the mean of each point and the points before it in the period. The
+/// mean is NaN if one of these points has no number.
 void AddMovingAverage(const std::vector<double>& x, const std::vector<double>& y, Trendline& line) {
   for (std::size_t i = line.period - 1; i < std::min(x.size(), y.size()); ++i) {
     double mean = 0;
@@ -180,7 +183,7 @@ void ReadLabel(ReadingContext& context, pugi::xml_node node, const TrendCurve& c
   line.labelLayout = ReadLayout(label);
 }
 
-/// The length by which a trendline goes on beyond the points. A file may say any number.
+/// Returns the length by which a trendline extends beyond the points. The file may contain any number.
 double ExtensionOf(pugi::xml_node node, const char* name) {
   const double length = schema::NumberVal(node, name).value_or(0);
   return std::isfinite(length) ? std::max(length, 0.0) : 0;
@@ -232,7 +235,7 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   return line;
 }
 
-/// Adds slots behind the last date of an axis that a trendline is extended along, but none after the last
+/// Adds slots after the last date of an axis for a trendline that extends beyond it, but none after the last
 /// date of Excel.
 void ExtendDates(const Trendline& line, xlsx::DateSystem system, AxisModel& axis) {
   DateSlots& dates = *axis.dates;
@@ -273,15 +276,15 @@ void PrependDates(ChartModel& chart, AxisModel& axis) {
   for (Trendline* line : lines) line->shift -= added;
 }
 
-/// Adds empty categories or dates behind the last one of an axis that a trendline is extended along. Notes an
-/// extension before the first category.
+/// Adds empty categories or dates after the last one of an axis for a trendline that extends beyond it. Adds
+/// a note if the trendline extends too far before the first category.
 void ExtendCategories(ReadingContext& context, const GroupModel& group, const Trendline& line,
                       ChartModel& chart) {
   if (group.category < 0 || group.HasXValues() || !line.curve) return;
   AxisModel& axis = chart.axes[static_cast<std::size_t>(group.category)];
   if (axis.IsOfValues()) return;
   if (axis.dates) return ExtendDates(line, chart.dates, axis);
-  constexpr double kMostBackward = 0.5;  // categories, which is the most that Excel accepts
+  constexpr double kMostBackward = 0.5;  // categories; the maximum that Excel accepts
   if (line.backward > kMostBackward) {
     AddOnce(context.notes, "The backward forecast of a trendline ends where the category axis begins.");
   }
@@ -292,7 +295,7 @@ void ExtendCategories(ReadingContext& context, const GroupModel& group, const Tr
   while (static_cast<double>(axis.categories.size()) < wanted) axis.categories.emplace_back();
 }
 
-/// What a trendline takes, in points that a line is fitted to.
+/// Returns the time that a trendline takes, as the number of points to which a line is fitted in that time.
 double CostOf(pugi::xml_node node, const SeriesModel& series) {
   constexpr double kLeast = 200, kAverageOfFit = 0.1;  // the points of a curve; a point of a moving average
   const double period =
@@ -349,7 +352,7 @@ void ReadAnalysis(ReadingContext& context, ChartModel& chart) {
 
 namespace {
 
-/// Returns true if at least two neighbouring points of a trendline are on its axes.
+/// Returns true if the axes show a part of a trendline.
 bool IsOnAxes(const Trendline& line, const AxisModel& across, const AxisModel& values) {
   const auto isPresent = [&](Point point) {
     return std::isfinite(point.x) && std::isfinite(point.y) && (!values.logBase || point.y > 0);
@@ -359,7 +362,7 @@ bool IsOnAxes(const Trendline& line, const AxisModel& across, const AxisModel& v
     return std::adjacent_find(line.points.begin(), line.points.end(), bothPresent) != line.points.end();
   }
   const xlsx::AxisScale& scale = values.scale;
-  const double dust = 1e-9 * (scale.maximum - scale.minimum);  // what rounding may add or remove
+  const double dust = 1e-9 * (scale.maximum - scale.minimum);  // the amount that rounding may add or remove
   int last = 0;  // the side of the scale of the last point: -1 is below it, 1 is above it
   for (const double x : SamplesOf(line, across)) {
     const double value = line.curve->At(x);
@@ -389,7 +392,7 @@ void FindVisibleTrendlines(ChartModel& chart) {
 
 namespace {
 
-/// Adds the ends by which a trendline is extended, as far as the axis of X values shows them.
+/// Adds the extensions of a trendline, as far as the axis of X values shows them.
 void AddExtensions(const Trendline& line, const AxisModel* axis, bool isX, xlsx::DataExtent& extent) {
   if (!line.curve) return;
   const bool reachesZero = line.curve->NeedsPositiveX() && !(line.from > 0);

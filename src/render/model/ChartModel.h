@@ -23,9 +23,9 @@
 /// A chart as it is drawn. It is read once from the part; defaults, themes and inheritance are resolved.
 namespace plotsmith::render {
 
-/// The filling, the outline and the shadow of an element.
+/// The fill, the outline and the shadow of an element.
 struct ShapeStyle {
-  /// The filling. It is std::monostate if there is none.
+  /// The fill. It is std::monostate if there is none.
   Fill fill;
   /// The outline, whose width is 0 if there is none.
   Stroke stroke;
@@ -33,10 +33,10 @@ struct ShapeStyle {
   std::optional<Shadow> shadow = {};
 };
 
-/// A layout that a person set (c:manualLayout), in fractions of the chart's width and height. A missing value
+/// A layout that the user set (c:manualLayout), in fractions of the chart's width and height. A missing value
 /// is automatic.
 struct ManualLayout {
-  /// The layout of a plot area is that of the rectangle between the axes, without tick labels.
+  /// Whether the layout of a plot area is that of the rectangle between the axes, without tick labels.
   bool inner = false;
   /// The left and the top edge, or the distances from the automatic position.
   std::optional<double> x, y;
@@ -54,7 +54,7 @@ struct TitleModel {
   RichText text;
   /// The look of the box around the text.
   ShapeStyle style;
-  /// The layout that a person set. It is absent if the layout is automatic.
+  /// The layout that the user set. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;
   /// Whether the title takes no space from the plot area.
   bool overlay = false;
@@ -73,18 +73,18 @@ struct LabelModel {
   std::optional<std::string> separator;
   /// The position, as a value of ST_DLblPos. It is never empty.
   std::string position;
-  /// The format of the value, or of the percentage if there is no value. Null is the format of the data.
+  /// The format of the value, or of the percentage if there is no value. Null means the format of the data.
   FormatPointer format;
   /// The format of the automatic text.
   TextStyle text;
   /// The look of the box around the text.
   ShapeStyle style;
-  /// The text that a person typed, which replaces all other parts. It is empty if there is none.
+  /// The text that the user typed, which replaces all other parts. It is empty if there is none.
   RichText own;
-  /// The layout that a person set. It is absent if the layout is automatic.
+  /// The layout that the user set. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;
 
-  /// Returns true if the label has any part of a text.
+  /// Returns true if the label shows any text.
   bool ShowsAnything() const;
 };
 /// The data labels of a series.
@@ -123,7 +123,7 @@ struct PointModel {
   /// The distance of a slice from the middle, in percent of the radius. It is absent if the point has that of
   /// the series.
   std::optional<double> explosion;
-  /// Whether the filling is inverted below zero. It is absent if the series decides.
+  /// Whether the fill is inverted below zero. It is absent if the series decides.
   std::optional<bool> invertIfNegative;
 };
 
@@ -137,7 +137,7 @@ struct Trendline {
   std::string name;
   /// The extensions beyond the last and the first point, in X units.
   double forward = 0, backward = 0;
-  /// The number to subtract from an X value to get the argument of AxisMap::OfX.
+  /// The number that is subtracted from an X value to get the argument of AxisMap::OfX.
   double shift = 0;
   /// The curve. It is absent for a moving average, and if no curve could be fitted.
   std::optional<TrendCurve> curve;
@@ -153,14 +153,14 @@ struct Trendline {
   RichText label;
   /// The look of the box around the label.
   ShapeStyle labelStyle;
-  /// The layout that a person set for the label. It is absent if the layout is automatic.
+  /// The layout that the user set for the label. It is absent if the layout is automatic.
   std::optional<ManualLayout> labelLayout;
 };
 
 struct AxisModel;
-/// Returns the X values between which the curve of a trendline is visible. `axis` is the axis of X values, or
-/// null. The first X value is above zero if the curve or the axis requires it. Returns nothing if the axis
-/// shows no part of the curve.
+/// Returns the first and the last X value at which the curve of a trendline is visible. `axis` is the axis of
+/// X values, or null. The first X value is above zero if the curve or the axis requires that. Returns nothing
+/// if the axis shows no part of the curve.
 std::optional<std::pair<double, double>> SeenPart(const Trendline& line, const AxisModel* axis);
 /// Returns the X values at which the visible part of the curve of a trendline is drawn, in ascending order.
 /// `axis` is the axis of X values.
@@ -182,15 +182,15 @@ struct SeriesModel {
   std::vector<double> sizes;
   /// The formats of the values and of the bubble sizes.
   FormatPointer valueFormat, sizeFormat;
-  /// The style of bars, areas, bubbles and slices. Lines have its stroke.
+  /// The style of bars, areas, bubbles and slices. Lines use its stroke.
   ShapeStyle style;
   /// The marker of all points that have none of their own.
   MarkerModel marker;
   /// Whether the line is a smooth curve.
   bool smooth = false;
-  /// Whether the filling is inverted below zero.
+  /// Whether the fill is inverted below zero.
   bool invertIfNegative = false;
-  /// The filling that replaces an inverted solid filling.
+  /// The fill that replaces an inverted solid fill.
   Fill invertedFill;
   /// Whether bubbles look like balls.
   bool bubble3D = false;
@@ -213,10 +213,10 @@ struct SeriesModel {
 
   /// Returns the style of a point by its index, from 0.
   const ShapeStyle& StyleOf(std::size_t point) const;
-  /// Returns the style of a point by its index, from 0. The filling may be inverted if `value`, which is the
+  /// Returns the style of a point by its index, from 0. The fill may be inverted if `value`, which is the
   /// value or the bubble size, is below zero.
   ShapeStyle StyleOf(std::size_t point, double value) const;
-  /// Returns true if the filling of a point with this value is inverted.
+  /// Returns true if the fill of a point with this value is inverted.
   bool IsInverted(std::size_t point, double value) const;
   /// Returns the marker of a point by its index, from 0.
   const MarkerModel& MarkerOf(std::size_t point) const;
@@ -228,7 +228,7 @@ struct SeriesModel {
 struct UpDownBars {
   /// The gap between two bars, in percent of the width of a bar.
   double gapWidth = 150;
-  /// The styles of bars at which the last series is above the first one, and below it.
+  /// The styles of the bars where the last series is above the first one, and where it is below.
   ShapeStyle up, down;
 };
 
@@ -256,14 +256,14 @@ enum class Family : std::uint8_t {
   kSurface,
   kOfPie
 };
-/// How the series of a group share a category.
+/// How the values of the series in a group are arranged in a category.
 enum class Grouping : std::uint8_t { kStandard, kClustered, kStacked, kPercent };
 
 /// A band of values on a surface, which has a colour of its own.
 struct SurfaceBand {
   /// The lower and the upper limit of the values.
   double from = 0, to = 0;
-  /// The style, of which a wireframe uses only the stroke.
+  /// The style. A wireframe uses only its stroke.
   ShapeStyle style;
 };
 
@@ -273,7 +273,7 @@ struct GroupModel {
   pugi::xml_node node;
   /// The family of charts, which decides how the series are drawn.
   Family family = Family::kBar;
-  /// How the series share a category.
+  /// How the values of the series are arranged in a category.
   Grouping grouping = Grouping::kStandard;
   /// Whether the group is drawn in 3-D.
   bool is3D = false;
@@ -281,7 +281,7 @@ struct GroupModel {
   bool horizontal = false;
   /// Whether a radar chart is drawn as areas.
   bool filled = false;
-  /// Whether the points of a series differ in colour.
+  /// Whether the points of a series have different colours.
   bool varyColors = false;
   /// Whether a scatter chart has no lines.
   bool markersOnly = false;
@@ -300,7 +300,7 @@ struct GroupModel {
   double bubbleScale = 100;
   /// Whether bubbles with a size below zero are drawn.
   bool showNegativeBubbles = false;
-  /// Whether the size of a bubble is its width. Otherwise it is its area.
+  /// Whether the size of a bubble determines its width. Otherwise the size determines its area.
   bool sizeIsWidth = false;
   /// The lines from points to the category axis, and the lines from the highest to the lowest point of each
   /// category. They are absent if the group has none.
@@ -373,7 +373,7 @@ struct AxisModel {
   std::optional<double> logBase;
   /// The minimum, the maximum and the major unit of a value axis.
   xlsx::AxisScale scale;
-  /// The parts of the scale that a person set.
+  /// The parts of the scale that the user set.
   xlsx::AxisSettings settings;
   /// The extent of the data along a value axis.
   xlsx::DataExtent extent;
@@ -395,14 +395,16 @@ struct AxisModel {
   TextStyle text;
   /// The index into ChartModel::axes of the axis that this one crosses, or -1 if there is none.
   int crossed = -1;
-  /// Where this axis crosses that axis, as a value of ST_Crosses. `crossesAt` replaces it.
+  /// Where this axis crosses the axis `crossed`, as a value of ST_Crosses. It has no effect if `crossesAt` is
+  /// set.
   std::string crosses = "autoZero";
   /// The value or the category, from 1, at which this axis crosses the other one. It is absent if `crosses`
   /// applies.
   std::optional<double> crossesAt;
   /// Whether the value axis crosses this one between two categories. Otherwise it crosses on a category.
   bool crossesBetween = true;
-  /// The numbers of categories from one label to the next and from one tick mark to the next. 0 is automatic.
+  /// The numbers of categories from one label to the next, and from one tick mark to the next. 0 means
+  /// automatic.
   long long labelSkip = 0, tickSkip = 1;
   /// The display units of a value axis.
   DisplayUnits units;
@@ -444,7 +446,7 @@ struct LegendModel {
   std::string position = "r";
   /// Whether the legend takes no space from the plot area.
   bool overlay = false;
-  /// The layout that a person set. It is absent if the layout is automatic.
+  /// The layout that the user set. It is absent if the layout is automatic.
   std::optional<ManualLayout> layout;
   /// The look of the box around the entries.
   ShapeStyle style;
@@ -465,9 +467,9 @@ struct DataTable {
   bool horizontalLines = false, verticalLines = false, outline = false;
   /// Whether the table shows legend keys beside the names of the series.
   bool keys = false;
-  /// AxisModel::tickLabels of the axis if the table can't be drawn.
+  /// The value for AxisModel::tickLabels of the axis if the table can't be drawn.
   std::string tickLabels;
-  /// AxisModel::crossesBetween of the axis if the table can't be drawn.
+  /// The value for AxisModel::crossesBetween of the axis if the table can't be drawn.
   bool crossesBetween = false;
   /// The lines of the table.
   Stroke stroke;
@@ -475,7 +477,7 @@ struct DataTable {
   TextStyle text;
 };
 
-/// A chart. Title, legend and data table are absent if the chart has none.
+/// A chart. The title, legend and data table are absent if the chart has none.
 struct ChartModel {
   /// The look of the background of the chart, and of the rectangle between the axes.
   ShapeStyle chartArea, plotArea;
@@ -491,7 +493,7 @@ struct ChartModel {
   std::optional<ManualLayout> layout;
   /// The groups that have series, in the order in which they are drawn.
   std::vector<GroupModel> groups;
-  /// The axes. They are hidden if all groups are radar charts.
+  /// The axes. They are hidden if all groups are radar charts, or if there is no group.
   std::vector<AxisModel> axes;
   /// A copy of the axes for DrawRadar. It is empty if the chart has no radar group.
   std::vector<AxisModel> spokes;

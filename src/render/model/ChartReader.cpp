@@ -20,7 +20,7 @@ namespace xml = xlsx::xml;
 namespace {
 
 std::vector<AxisModel> ReadAxes(ReadingContext& context, pugi::xml_node plotArea) {
-  constexpr std::size_t kMostAxes = 16;  // Excel has four, and a fifth in depth.
+  constexpr std::size_t kMostAxes = 16;  // Excel has four, and a fifth for the depth.
   std::vector<AxisModel> axes;
   for (const pugi::xml_node& node : plotArea.children()) {
     if (!schema::IsAxis(node) || axes.size() == kMostAxes) continue;
@@ -43,8 +43,9 @@ void LayAcross(const GroupModel& group, AxisModel& category, AxisModel& value) {
   value.side = group.horizontal ? Side::kBottom : Side::kLeft;
 }
 
-/// Gives an axis the categories of a group. If the axis shows no levels, the texts of all levels become one,
-/// as far as they take a bounded number of bytes: a text of a level is repeated for each of its categories.
+/// Gives an axis the categories of a group. If the axis shows no levels, the texts of all levels of a
+/// category are joined. The text of a level is repeated for each of its categories, so the number of bytes is
+/// limited.
 void TakeCategories(const GroupModel& group, AxisModel& axis) {
   axis.categories = group.categories;
   axis.outerLevels = group.outerLevels;
@@ -85,8 +86,8 @@ void Attach(ReadingContext& context, GroupModel& group, std::vector<AxisModel>& 
   }
 }
 
-/// Makes an axis of categories one of values if only X values lie along it. If other groups have categories
-/// on it, an X value is the number of a category.
+/// Makes a category axis a value axis if only X values are along it. If other groups have categories on it,
+/// an X value is the number of a category.
 void SettleXAxes(ReadingContext& context, ChartModel& chart) {
   for (const GroupModel& group : chart.groups) {
     if (!group.HasXValues() || group.category < 0) continue;

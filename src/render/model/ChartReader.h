@@ -20,7 +20,7 @@ inline constexpr std::size_t kMostLegendEntries = 2000;
 struct ReadingContext {
   /// The chart part, which is only read.
   xlsx::ChartPart& part;
-  /// Gets a sentence for each setting that isn't drawn.
+  /// Receives a sentence for each setting that isn't drawn.
   Notes& notes;
   /// The automatic looks of elements without a format.
   AutomaticStyles styles;
@@ -52,23 +52,24 @@ TitleModel ReadTitle(ReadingContext& context, pugi::xml_node title, xlsx::TextRo
                      const std::string& automatic);
 /// Reads the legend. Returns nothing if the chart has none.
 std::optional<LegendModel> ReadLegend(ReadingContext& context);
-/// Reads the error bars, trendlines and up/down bars of all groups. The axes must be read before. Category
+/// Reads the error bars, trendlines and up/down bars of all groups. The axes must already be read. Category
 /// axes are extended for trendlines.
 void ReadAnalysis(ReadingContext& context, ChartModel& chart);
 /// Reads the data table of a plot area, which replaces the tick labels of its axis.
 void ReadDataTable(ReadingContext& context, pugi::xml_node plotArea, ChartModel& chart);
 /// Reads the bands of surfaces, whose axes must be scaled.
 void ReadSurfaces(ReadingContext& context, ChartModel& chart);
-/// Extends the extent of an axis by error bars and extended trendlines. The axis of X values must be scaled
-/// before the value axis.
+/// Adds error bars and extended trendlines to the extent of the data along an axis. The axis of X values must
+/// be scaled before the value axis.
 void AddAnalysisExtent(const ChartModel& chart, const GroupModel& group, bool isX, xlsx::DataExtent& extent);
-/// Sets which trendlines the axes show. All axes must be scaled.
+/// Sets Trendline::isVisible of all trendlines. All axes must be scaled.
 void FindVisibleTrendlines(ChartModel& chart);
 /// Adds the entries of visible trendlines to the legend.
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
 /// Replaces the entries of the legend by those of the bands, if the chart has surfaces.
 void AddBandEntries(ReadingContext& context, ChartModel& chart);
-/// Places the categories of a group on a date axis. If they aren't dates, the axis stays one of categories.
+/// Reads the dates of the categories of a group (c:cat) and sets `axis.dates`. If the categories aren't dates,
+/// the axis doesn't change.
 void ReadDates(ReadingContext& context, const GroupModel& group, AxisModel& axis);
 
 /// Reads the numbers of a series (c:val, c:xVal and the like), one for each point. A missing number is NaN.

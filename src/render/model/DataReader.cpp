@@ -24,8 +24,8 @@ namespace {
 
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 
-/// Returns how many points may be read of a cache that claims to have `claimed` points. Adds a note if it has
-/// more.
+/// Returns how many points of a cache may be read if it claims to have `claimed` points. Adds a note if this
+/// is fewer.
 std::size_t Admitted(ReadingContext& context, long long claimed) {
   const auto wanted = static_cast<std::size_t>(std::max(claimed, 0LL));
   const std::size_t count = std::min({wanted, kMostPoints, context.pointsLeft});
@@ -152,7 +152,7 @@ std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t cate
        xml::Children(xml::Child(data, "multiLvlStrRef", "multiLvlStrCache"), "lvl")) {
     if (std::exchange(isInnermost, false)) continue;
     if (levels.size() == kMostLevels) break;
-    std::map<std::size_t, std::string> texts;  // by the categories where they begin
+    std::map<std::size_t, std::string> texts;  // by the index of their first category
     for (const pugi::xml_node& point : xml::Children(node, "pt")) {
       const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
       if (index < categories) texts[index] = xlsx::CachedText(point);

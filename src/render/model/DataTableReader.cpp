@@ -11,7 +11,7 @@ namespace xml = xlsx::xml;
 
 namespace {
 
-/// The index of the flat axis of categories that a table can be below; -1 if the chart has none.
+/// Returns the index of the horizontal category axis below which a table can be; -1 if the chart has none.
 int FindTableAxis(const ChartModel& chart) {
   for (const GroupModel& group : chart.groups) {
     const bool hasColumns = group.family == Family::kArea || group.family == Family::kBar ||

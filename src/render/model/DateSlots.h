@@ -23,7 +23,7 @@ struct DateSlots {
   /// The positions of the categories, in slots from the first one. Categories outside of the axis have
   /// positions below 0 or from `count` on.
   std::vector<double> positions;
-  /// The distance between two labels in units of `majorBase`. 0 is automatic.
+  /// The distance between two labels, in units of `majorBase`. 0 means automatic.
   double majorUnit = 0;
   /// The unit of `majorUnit`.
   TimeUnit majorBase = TimeUnit::kDays;

@@ -18,15 +18,15 @@ namespace xml = xlsx::xml;
 
 namespace {
 
-constexpr double kDegree = 60000;  // of a:outerShdw/@dir and the angles by which a shadow leans
+constexpr double kDegree = 60000;  // units per degree in a:outerShdw/@dir and in skew angles
 
-/// A length within what a picture can show, in points.
+/// Returns a length in points, limited to what a picture can show.
 double LengthOf(pugi::xml_node node, const char* name, double most) {
   const double points = xlsx::PointsOf(node, name, 0);
   return std::isfinite(points) ? std::clamp(points, 0.0, most) : 0;
 }
 
-/// A percentage, in thousandths or with its sign.
+/// Returns a percentage as a fraction. The file has it in thousandths of a percent or with a percent sign.
 double ScaleOf(pugi::xml_node node, const char* name) {
   std::string text = xml::Attribute(node, name, "100000");
   double whole = 100'000;
@@ -46,7 +46,7 @@ double LeanOf(pugi::xml_node node, const char* name) {
   return std::tan(std::clamp(degrees, -kSteepest, kSteepest) * std::numbers::pi / 180);
 }
 
-/// The point of the bounds that an alignment (ST_RectAlignment) names.
+/// Returns the point of the bounds that an alignment (ST_RectAlignment) names.
 Point FixedPointOf(std::string_view alignment) {
   if (alignment == "ctr") return {0.5, 0.5};
   const double x = alignment.ends_with('l') ? 0 : alignment.ends_with('r') ? 1 : 0.5;
@@ -65,7 +65,7 @@ std::optional<Shadow> ReadShadow(const Palette& palette, pugi::xml_node properti
   if (!node || !color) return std::nullopt;
   constexpr double kSoftest = 200, kFarthest = 1000;  // points
   Shadow shadow{*color};
-  // a radius of two standard deviations holds nearly all of a soft edge
+  // A radius of two standard deviations contains nearly all of a soft edge.
   shadow.blur = LengthOf(node, "blurRad", kSoftest) / 2;
   const double distance = LengthOf(node, "dist", kFarthest);
   const double direction = xml::NumberAttribute(node, "dir", 0) / kDegree;

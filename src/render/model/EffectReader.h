@@ -15,7 +15,7 @@ namespace plotsmith::render {
 std::optional<Shadow> ReadShadow(const Palette& palette, pugi::xml_node properties,
                                  const std::optional<Shadow>& automatic);
 
-/// The elements of looks that few charts have.
+/// The elements of formats that few charts have.
 struct RareLooks {
   std::vector<pugi::xml_node> pictures;  ///< a:blipFill
   std::vector<pugi::xml_node> effects;   ///< a:effectLst, a:effectDag and a:sp3d

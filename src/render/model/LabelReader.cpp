@@ -13,8 +13,8 @@ namespace xml = xlsx::xml;
 
 namespace {
 
-/// Reads the settings of the labels of a series (c:dLbls) or of a point (c:dLbl) over those that hold
-/// otherwise.
+/// Reads the settings of the labels of a series (c:dLbls) or of a point (c:dLbl). Missing settings are those
+/// of `base`.
 LabelModel ReadLabel(ReadingContext& context, pugi::xml_node node, const LabelModel& base) {
   LabelModel label = base;
   label.showsValue = schema::BooleanVal(node, "showVal", base.showsValue);

@@ -71,7 +71,7 @@ std::optional<LegendModel> ReadLegend(ReadingContext& context) {
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart) {
   if (!chart.legend) return;
   LegendModel& legend = *chart.legend;
-  // The entries of trendlines are counted behind those of all series, or of all points.
+  // The numbers of the entries of trendlines follow those of all series, or of all points.
   std::size_t number = context.part.Series().size();
   const bool hasPoints = std::any_of(legend.entries.begin(), legend.entries.end(),
                                      [](const LegendEntry& entry) { return entry.point > 0; });

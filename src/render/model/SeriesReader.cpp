@@ -19,17 +19,17 @@ namespace xml = xlsx::xml;
 
 namespace {
 
-constexpr std::size_t kMostColors = 54;                      // after which the varied colours repeat
-constexpr double kLineWidth = 2.25;                          // points, of an automatic line of a series
-constexpr double kMarkerSize = 7;                            // points, of an automatic marker
+constexpr std::size_t kMostColors = 54;                      // the varied colours repeat after this number
+constexpr double kLineWidth = 2.25;                          // points; of an automatic line of a series
+constexpr double kMarkerSize = 7;                            // points; of an automatic marker
 constexpr const char *kAutomatic = "auto", *kNone = "none";  // values of ST_MarkerStyle
 
 struct Kind {
   std::string_view element;
   Family family;
 
-  /// Returns whether the group is drawn in 3-D: a surface, also one that is seen from above, and groups that
-  /// have this in the name of their element.
+  /// Returns whether the group is drawn in 3-D. This is true for surfaces, even if they are seen from above,
+  /// and for groups with "3D" in the name of their element.
   bool Is3D() const { return family == Family::kSurface || element.find("3D") != std::string_view::npos; }
 };
 constexpr std::array<Kind, 16> kKinds = {{{"areaChart", Family::kArea},
@@ -101,7 +101,7 @@ ShapeStyle AutomaticStyle(const GroupModel& group, const Color& color) {
   return {SolidFill{color}, {}};
 }
 
-/// Reads a marker (c:marker). One without a symbol has `defaultSymbol`.
+/// Reads a marker (c:marker). A marker without a symbol gets `defaultSymbol`.
 MarkerModel ReadMarker(ReadingContext& context, pugi::xml_node marker, const MarkerModel& automatic,
                        const char* defaultSymbol) {
   constexpr double kLeast = 2, kMost = 72;
@@ -120,7 +120,7 @@ MarkerModel AutomaticMarker(const Color& color, std::size_t index) {
   return {kSymbols[index % kSymbols.size()], kMarkerSize, {SolidFill{color}, {color, 0.75}}};
 }
 
-/// Returns the symbol of series in a group that don't set one.
+/// Returns the symbol of those series in a group that don't set one.
 const char* DefaultSymbol(const GroupModel& group) {
   bool draws = false;
   if (group.family == Family::kLine) {
@@ -134,7 +134,7 @@ const char* DefaultSymbol(const GroupModel& group) {
   return draws ? kAutomatic : kNone;
 }
 
-/// Returns the looks of points in varied colours, up to the one after which they repeat.
+/// Returns the looks of points in varied colours, up to the last one before they repeat.
 std::vector<PointModel> VariedPoints(ReadingContext& context, const GroupModel& group,
                                      const SeriesModel& series) {
   std::vector<PointModel> points;
@@ -149,7 +149,7 @@ std::vector<PointModel> VariedPoints(ReadingContext& context, const GroupModel& 
   return points;
 }
 
-/// Reads the looks of the points of a series that differ from its own.
+/// Reads the looks of those points that differ from their series.
 void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& series) {
   const bool varies = group.varyColors && !xlsx::FindFill(xml::Child(series.node, "spPr"));
   if (varies) series.palette = VariedPoints(context, group, series);
@@ -166,7 +166,7 @@ void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& s
     } else {
       point.marker = automaticMarker;
     }
-    // A point with a filling of its own isn't inverted, unless it sets that itself.
+    // A point with a fill of its own isn't inverted, unless it has the setting itself.
     if (xml::Child(node, "invertIfNegative") || xlsx::FindFill(xml::Child(node, "spPr"))) {
       point.invertIfNegative = schema::BooleanVal(node, "invertIfNegative", false);
     }
@@ -174,8 +174,8 @@ void ReadPoints(ReadingContext& context, const GroupModel& group, SeriesModel& s
   }
 }
 
-/// Reads the filling of inverted points from the extension that Excel writes since 2010. It is white without
-/// one.
+/// Reads the fill of inverted points from the extension that Excel 2010 and newer versions write. Without the
+/// extension, the fill is white.
 Fill ReadInvertedFill(ReadingContext& context, pugi::xml_node series) {
   const Fill white = SolidFill{{255, 255, 255, 1}};
   for (const pugi::xml_node& extension : xml::Children(xml::Child(series, "extLst"), "ext")) {
@@ -279,7 +279,7 @@ SeriesModel ReadSeries(ReadingContext& context, const GroupModel& group, pugi::x
   return series;
 }
 
-/// Reads what a group says of itself, without its series and categories.
+/// Reads the settings of a group itself, without its series and categories.
 void ReadSettings(ReadingContext& context, GroupModel& group) {
   const pugi::xml_node node = group.node;
   const Kind& kind = GroupKindOf(node);
@@ -299,7 +299,7 @@ void ReadSettings(ReadingContext& context, GroupModel& group) {
   group.bubbleScale = Limited(node, "bubbleScale", 100, 0, 300);
   group.showNegativeBubbles = schema::BooleanVal(node, "showNegBubbles", false);
   group.sizeIsWidth = schema::Val(node, "sizeRepresents", "area") == "w";
-  // If a file doesn't say how the points are drawn, Excel joins them with lines.
+  // If the file has no style, Excel joins the points with lines.
   const std::string style = schema::Val(node, "scatterStyle", "lineMarker");
   group.markersOnly = kind.family == Family::kScatter && (style == "marker" || style == "none");
   // Colours differ by point only if the group has slices or the chart has one series.

@@ -29,8 +29,8 @@ namespace xml = xlsx::xml;
 namespace {
 
 constexpr double kUnitsPerDegree = 60000;
-constexpr double kHairline = 0.75;    // points, of a line without a width
-constexpr double kWidestLine = 1584;  // points, the limit of the file format
+constexpr double kHairline = 0.75;    // points; of a line without a width
+constexpr double kWidestLine = 1584;  // points; the limit of the file format
 
 /// Reads a percentage of DrawingML, which is in thousandths of a percent or a text such as "65%", as a
 /// fraction.
@@ -80,8 +80,8 @@ std::vector<double> DashesOf(std::string_view name, double width) {
   return lengths;
 }
 
-/// Reads a picture that is stretched or repeated. A pixel of a tile is 1/96 inch, times the scale of the
-/// tile.
+/// Reads a picture that is stretched or repeated. A pixel of a tile is 1/96 inch, multiplied by the scale of
+/// the tile.
 Fill ReadPicture(const Palette& palette, pugi::xml_node fill, const Fill& automatic) {
   std::string bytes = palette.Picture(fill);
   const auto size = SizeOfImage(bytes);
@@ -116,7 +116,7 @@ Fill ReadGradient(const Palette& palette, pugi::xml_node fill, const Fill& autom
 }
 
 Font FontOf(const xlsx::TextLook& look) {
-  constexpr double kLeast = 1, kMost = 400;  // points, the limits of font sizes in a file
+  constexpr double kLeast = 1, kMost = 400;  // points; the limits of font sizes in a file
   return {look.typeface, std::isfinite(look.points) ? std::clamp(look.points, kLeast, kMost) : 10, look.bold,
           look.italic, look.underline};
 }
@@ -126,7 +126,7 @@ void ReadRotation(pugi::xml_node body, std::optional<double>& rotation, bool& st
   const auto properties = xml::Child(body, "bodyPr");
   if (const auto units = xml::ParseDouble(xml::Attribute(properties, "rot"))) {
     const double degrees = *units / kUnitsPerDegree;
-    // Files have -1000 degrees for a rotation that Excel decides.
+    // Files contain -1000 degrees for a rotation that Excel chooses.
     if (std::abs(degrees) <= 360) rotation = degrees;
   }
   const std::string direction = xml::Attribute(properties, "vert", "horz");
@@ -232,7 +232,7 @@ RichText ReadText(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole 
     const TextStyle style{FontOf(looks.front()), FromExcel(looks.front().color), text.rotation, text.stacked};
     return Plain(tx ? xlsx::SourceText(part, tx) : automatic, style);
   }
-  std::size_t next = 0;  // Looks exist for the runs that have a text, in their order.
+  std::size_t next = 0;  // There are looks for the runs with a text, in their order.
   for (const pugi::xml_node& paragraph : xml::Children(rich, "p")) {
     text.paragraphs.emplace_back();
     for (const pugi::xml_node& run : paragraph.children()) {

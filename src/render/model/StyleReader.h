@@ -14,7 +14,7 @@ class ChartPart;
 class Theme;
 }  // namespace plotsmith::xlsx
 
-/// Reads fillings, lines and texts of DrawingML.
+/// Reads fills, lines and texts of DrawingML.
 namespace plotsmith::render {
 
 /// Resolves the colours and pictures of a chart, or of the shapes on a sheet. A chart can have its own theme
@@ -31,8 +31,8 @@ class Palette {
   std::optional<std::int32_t> Color(pugi::xml_node holder) const;
   /// The theme whose colours are used.
   const xlsx::Theme& Theme() const;
-  /// Returns the bytes of the picture of a filling (a:blipFill) in a chart part, or an empty text if it can't
-  /// be read.
+  /// Returns the bytes of the picture of a fill (a:blipFill) in a chart part, or an empty text if it can't be
+  /// read.
   std::string Picture(pugi::xml_node fill) const;
 
  private:
@@ -42,8 +42,8 @@ class Palette {
 
 /// Reads the colour in an element (a:solidFill, a:fgClr) with its opacity. Returns nothing if it isn't known.
 std::optional<Color> ReadColor(const Palette& palette, pugi::xml_node holder);
-/// Reads a filling (a:solidFill, a:gradFill, a:pattFill, a:blipFill, a:noFill). Returns `automatic` if the
-/// node is null or another element.
+/// Reads a fill (a:solidFill, a:gradFill, a:pattFill, a:blipFill, a:noFill). Returns `automatic` if the node
+/// is null or another element.
 Fill ReadFill(const Palette& palette, pugi::xml_node fill, const Fill& automatic);
 /// Reads a line (a:ln). Properties that it doesn't set are those of `automatic`.
 Stroke ReadStroke(const Palette& palette, pugi::xml_node line, const Stroke& automatic);
@@ -66,10 +66,10 @@ class AutomaticStyles {
   /// Makes the formats of a chart. `part` must outlive this object.
   explicit AutomaticStyles(xlsx::ChartPart& part) : part_(part) {}
 
-  /// Returns the filling and the border of the chart area.
+  /// Returns the fill and the border of the chart area.
   ShapeStyle ChartArea() const;
-  /// Returns the filling of the plot area. `isFlat` is true if the chart has axes and isn't in 3-D. Other
-  /// plot areas have no filling.
+  /// Returns the fill of the plot area. `isFlat` is true if the chart has axes and isn't in 3-D. Other plot
+  /// areas have no fill.
   ShapeStyle PlotArea(bool isFlat) const;
   /// Returns the line of axes and of major gridlines.
   Stroke AxisLine() const;

@@ -14,7 +14,8 @@ namespace {
 
 constexpr std::size_t kMostBands = 60;
 
-/// The limits of bands: the major units of an axis and its ends; of very many, some.
+/// Returns the limits of the bands: the ends of an axis and its major units. If there are very many units,
+/// only some of them are limits.
 std::vector<double> LimitsOf(const AxisModel& axis) {
   constexpr double kDust = 1e-9;  // share of a unit
   const auto& [minimum, maximum, unit] = axis.scale;
@@ -57,7 +58,7 @@ void ReadSurfaces(ReadingContext& context, ChartModel& chart) {
     group.wireframe = schema::BooleanVal(group.node, "wireframe", false);
     group.isContour = xml::Is(group.node, "surfaceChart");
     AxisModel& axis = chart.axes[static_cast<std::size_t>(group.value)];
-    axis.settings.majorUnit = axis.scale.majorUnit;  // The bands have this unit as their height.
+    axis.settings.majorUnit = axis.scale.majorUnit;  // The height of the bands is this unit.
     ReadBands(context, LimitsOf(axis), group);
   }
 }

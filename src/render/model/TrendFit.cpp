@@ -13,7 +13,8 @@ namespace {
 bool HasLogarithmOfX(TrendKind kind) { return kind == TrendKind::kLogarithmic || kind == TrendKind::kPower; }
 bool HasLogarithmOfY(TrendKind kind) { return kind == TrendKind::kExponential || kind == TrendKind::kPower; }
 
-/// Whether all points have the logarithms that a curve needs. Excel offers no curve where one hasn't.
+/// Returns true if all points have the logarithms that a curve needs. If one of them doesn't, Excel doesn't
+/// offer the curve.
 bool HaveLogarithms(TrendKind kind, const std::vector<double>& x, const std::vector<double>& y) {
   for (std::size_t i = 0; i < std::min(x.size(), y.size()); ++i) {
     if (!std::isfinite(x[i]) || !std::isfinite(y[i])) continue;
@@ -23,7 +24,7 @@ bool HaveLogarithms(TrendKind kind, const std::vector<double>& x, const std::vec
   return true;
 }
 
-/// Points in logarithmic terms.
+/// The coordinates of points, or their logarithms if the curve needs them.
 struct Terms {
   std::vector<double> u, v;
 };
@@ -42,8 +43,8 @@ Terms TermsOf(TrendKind kind, const std::vector<double>& x, const std::vector<do
 
 using Row = std::vector<long double>;
 
-/// Solves a system of linear equations, each with its right side at the end. Nothing if it has no single
-/// solution.
+/// Solves a system of linear equations, each with its right side at the end. Returns nothing if there is no
+/// unique solution.
 std::optional<Row> Solve(std::vector<Row> rows) {
   const std::size_t count = rows.size();
   for (std::size_t column = 0; column < count; ++column) {
@@ -65,7 +66,7 @@ std::optional<Row> Solve(std::vector<Row> rows) {
   return solution;
 }
 
-/// The normal equations of a polynomial with powers from `least` to `most` through points near zero.
+/// Returns the normal equations of a polynomial with powers from `least` to `most` through points near zero.
 std::vector<Row> NormalEquations(const std::vector<double>& t, const std::vector<double>& v,
                                  std::size_t least, std::size_t most) {
   const std::size_t count = most - least + 1;
@@ -114,7 +115,7 @@ double TrendCurve::At(double x) const {
 }
 
 std::vector<double> TrendCurve::Factors() const {
-  // From the highest power on, the polynomial is multiplied by (u - center) / scale.
+  // This is Horner's method: from the highest power on, the polynomial is multiplied by (u - center) / scale.
   std::vector<double> factors;
   for (std::size_t k = coefficients_.size(); k-- > 0;) {
     std::vector<double> next(factors.size() + 1);
@@ -139,7 +140,7 @@ std::optional<TrendCurve> FitTrend(TrendKind kind, std::size_t order, std::optio
   const Terms terms = TermsOf(kind, x, y);
   if (terms.u.size() < order + (intercept ? 0 : 1) || terms.u.empty()) return std::nullopt;
   const auto [least, most] = std::minmax_element(terms.u.begin(), terms.u.end());
-  // With numbers from -1 to 1, the equations differ enough to be solved.
+  // With numbers from -1 to 1, the equations can be solved accurately enough.
   const double center = intercept ? 0 : *least / 2 + *most / 2;
   const double scale = intercept ? std::max(std::abs(*least), std::abs(*most)) : *most / 2 - *least / 2;
   if (!(scale > 0)) return std::nullopt;
@@ -191,7 +192,7 @@ std::string EquationNumber(double number) {
 
 namespace {
 
-/// Terms of a sum, each with its sign. A term whose factor is zero is left out.
+/// The text of a sum with the signs of its terms. A term whose factor is zero is left out.
 class SumText {
  public:
   explicit SumText(const std::function<std::string(double)>& format) : format_(format) {}

@@ -1,8 +1,8 @@
 #pragma once
 
-/// The entry points of the modules that measure texts and draw. They are shared libraries which a program
-/// loads when it draws for the first time, so that other commands don't wait for the graphics libraries.
-/// SVG needs only the fonts, which load in half the time.
+/// The entry points of the modules that measure texts and draw. They are shared libraries that a program
+/// loads when it draws for the first time, so that other commands don't wait for the graphics libraries. SVG
+/// needs only the module of the fonts, which loads in half the time.
 namespace plotsmith::render {
 
 class Painter;
@@ -20,7 +20,8 @@ using ModuleVersion = const char*();
 inline constexpr const char* kVersionFunction = "plotsmith_module_version";
 ///@}
 
-/// Functions of one module each. They return the measure and the painter, which exist until the process ends.
+/// Functions that return the text measure of the one module and the painter of the other. These objects exist
+/// until the process ends.
 ///@{
 using ModuleMeasure = const TextMeasure*();
 using ModulePainter = const Painter*();

@@ -8,18 +8,18 @@ namespace {
 
 constexpr double kPointsPerInch = 72;
 
-/// Whether the calling thread has asked for the measure.
+/// Whether the calling thread has called Measure.
 thread_local bool measures = false;
 
-/// Returns the fonts that all threads measure with. To find a font takes longer than to draw a chart, so a
-/// text that one thread has measured isn't laid out again by another.
+/// Returns the fonts with which all threads measure. Finding a font takes longer than drawing a chart, so the
+/// threads share the fonts and the measured texts.
 const CairoFonts& SharedFonts() {
   static const CairoFonts fonts;
   return fonts;
 }
 
-/// Returns the fonts that the calling thread paints with. A thread that only paints has its own, so that it
-/// doesn't wait for those that measure.
+/// Returns the fonts with which the calling thread paints. A thread that only paints has fonts of its own, so
+/// that it doesn't wait for threads that measure.
 const CairoFonts& FontsToPaintWith() {
   if (measures) return SharedFonts();
   thread_local const CairoFonts fonts;

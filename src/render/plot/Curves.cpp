@@ -6,7 +6,7 @@ namespace plotsmith::render {
 
 std::vector<Point> Thinned(const std::vector<Point>& points) {
   constexpr std::size_t kDense = 2000;
-  constexpr double kColumn = 0.5;  // points, which are less than a pixel
+  constexpr double kColumn = 0.5;  // points; less than a pixel
   if (points.size() <= kDense) return points;
   std::vector<Point> kept;
   for (std::size_t from = 0; from < points.size();) {

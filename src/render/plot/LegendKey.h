@@ -5,7 +5,7 @@
 
 namespace plotsmith::render {
 
-/// Returns true if the legend key of a series is a line. Otherwise it is a square with the filling of the
+/// Returns true if the legend key of a series is a line. Otherwise it is a square with the fill of the
 /// series.
 bool HasLineKey(const ChartModel& chart, int series);
 

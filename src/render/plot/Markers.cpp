@@ -21,7 +21,7 @@ Path OutlineOf(const std::string& symbol, Point center, double size) {
   if (symbol == "triangle") {
     return path.AddPolygon({{center.x, box.top}, {box.Right(), box.Bottom()}, {box.left, box.Bottom()}});
   }
-  constexpr double kThin = 0.3;  // height of a dash as a share of its width
+  constexpr double kThin = 0.3;  // the height of a dash as a share of its width
   if (symbol == "dash") return path.AddRect({box.left, center.y - half * kThin, size, size * kThin});
   if (symbol == "dot") return path.AddRect({center.x, center.y - half * kThin, half, size * kThin});
   if (symbol == "x" || symbol == "star") {

@@ -8,7 +8,7 @@
 
 namespace plotsmith::render {
 
-/// A point of a series that was drawn, for its label.
+/// A point of a series that was drawn. It determines the position of the label.
 struct DrawnPoint {
   const GroupModel* group = nullptr;    ///< The plot group of the series.
   const SeriesModel* series = nullptr;  ///< The series of the point.
@@ -40,7 +40,7 @@ struct Plot {
   const ChartModel& chart;              ///< The chart that is drawn.
   Rect area;                            ///< The rectangle between the axes.
   Canvas& canvas;                       ///< The canvas that gets the items.
-  std::vector<DrawnPoint> points = {};  ///< The drawn points that have labels; see Keep.
+  std::vector<DrawnPoint> points = {};  ///< The drawn points that have labels. Keep adds them.
   std::size_t symbolsLeft = 100'000;    ///< The number of markers and bubbles that may still be drawn.
 
   /// Counts one more marker or bubble. Returns false, and adds a note, if no more may be drawn.

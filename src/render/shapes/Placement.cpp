@@ -19,7 +19,7 @@ Placement Placement::Turned(Point center, double degrees, const Flip& flip) cons
   inner.yy_ = yx_ * xy + yy_ * yy;
   inner.x0_ = xx_ * x0 + xy_ * y0 + x0_;
   inner.y0_ = yx_ * x0 + yy_ * y0 + y0_;
-  // A text is turned with its shape, and is upside down in a shape that is mirrored vertically.
+  // A text is rotated with its shape, and is upside down in a shape that is mirrored vertically.
   inner.rotation_ = rotation_ + degrees + (flip.vertical ? 180 : 0);
   return inner;
 }

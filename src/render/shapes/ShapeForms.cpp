@@ -14,7 +14,7 @@ namespace {
 
 namespace xml = xlsx::xml;
 
-constexpr double kWhole = 100000;  // unit of adjustments
+constexpr double kWhole = 100000;  // the number in an adjustment that means 1
 
 /// The frame of a shape and its adjustments.
 class Frame {
@@ -145,8 +145,8 @@ Path Plus(const Frame& frame) {
                   {left, bottom - cut}});
 }
 
-/// Returns corners around a centre, beginning at the top. They are alternately at the full radii and at a
-/// share of them.
+/// Returns a star, or a polygon if `inner` is 1. It begins at the top. Its corners are alternately at the
+/// full radii and at the share `inner` of them.
 Path Star(Point center, double across, double down, int points, double inner) {
   std::vector<Point> corners;
   const int count = inner < 1 ? 2 * points : points;
@@ -159,7 +159,8 @@ Path Star(Point center, double across, double down, int points, double inner) {
   return Polygon(corners);
 }
 
-/// Five corners fill a frame if their circle is a little larger than it.
+/// Returns a pentagon or a star with five points. Its circle is a little larger than the frame, so that the
+/// corners reach the edges of the frame.
 Path FiveCorners(const Frame& frame, double inner) {
   constexpr double kAcross = 1.05146, kDown = 1.10557;
   const double down = frame.Bounds().height / 2 * kDown;
@@ -193,7 +194,8 @@ Path Chevron(const Frame& frame) {
                   {frame.Left() + cut, frame.MiddleY()}});
 }
 
-/// Returns the corners of an arrow. x goes from tail to tip, y across from the middle line.
+/// Returns the corners of an arrow. X goes from the tail to the tip, and Y is the distance from the middle
+/// line.
 std::vector<Point> ArrowCorners(double length, double breadth, double head, double shaft) {
   const double half = breadth / 2, thin = half * shaft, neck = length - head;
   return {{0, -thin}, {neck, -thin}, {neck, -half}, {length, 0}, {neck, half}, {neck, thin}, {0, thin}};
@@ -234,7 +236,7 @@ Path Donut(const Frame& frame) {
   const Rect hole{box.left + ring, box.top + ring, box.width - 2 * ring, box.height - 2 * ring};
   Path path;
   path.AddEllipse(box);
-  // It goes in the other direction, so that it is a hole.
+  // The inner outline goes in the other direction, which makes it a hole.
   return path.MoveTo(OnEllipse(hole, 0)).ArcTo(hole, 0, -360).Close();
 }
 

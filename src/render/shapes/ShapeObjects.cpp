@@ -22,9 +22,9 @@ namespace {
 
 namespace xml = xlsx::xml;
 
-constexpr int kDeepest = 16;  // levels of groups
+constexpr int kDeepest = 16;  // the maximum number of nested groups
 
-/// The frame of a shape (a:xfrm), and the coordinates that the members of a group have in it.
+/// The frame of a shape (a:xfrm), and the rectangle of this frame in the coordinates of a group's members.
 struct Transform {
   Rect frame, members;
   double rotation = 0;
@@ -50,7 +50,7 @@ Transform ReadTransform(pugi::xml_node object) {
   return transform;
 }
 
-/// The look of a shape by its style, which refers to the theme.
+/// The look that a shape gets from its style, which refers to the theme.
 struct StyleOfShape {
   ShapeStyle shape;
   Color text;
@@ -160,7 +160,7 @@ class ObjectPainter {
     if (place != frame) canvas_.PopClip();
     canvas_.Add({Role::kShape, 0, number_}, Path().AddRect(frame), {}, style.stroke);
   }
-  /// Returns the rectangle of a whole picture of which a frame shows a part.
+  /// Returns the rectangle of a whole picture if a frame shows only a part of it.
   static Rect Uncropped(pugi::xml_node crop, const Rect& frame) {
     const auto share = [&](const char* side) {
       const double thousandths = xml::NumberAttribute(crop, side, 0) / 100000;

@@ -16,7 +16,7 @@ namespace {
 
 namespace xml = xlsx::xml;
 
-constexpr double kUsualSize = 11;  // points, of a text without a size
+constexpr double kUsualSize = 11;  // points; of a text without a size
 
 /// The properties of a run. Those of the run itself take precedence over those of the body.
 class RunProperties {
@@ -115,7 +115,7 @@ class BodyReader {
     const std::string typeface = xml::Attribute(properties.Child("latin"), "typeface", "+mn-lt");
     run.font.family = palette_.Theme().Typeface(typeface);
     const double size = xml::ParseDouble(properties.Attribute("sz")).value_or(kUsualSize * 100) / 100;
-    constexpr double kLeast = 1, kMost = 400;  // points, the limits of font sizes in a file
+    constexpr double kLeast = 1, kMost = 400;  // points; the limits of font sizes in a file
     run.font.size = (std::isfinite(size) ? std::clamp(size, kLeast, kMost) : kUsualSize) * scale_;
     run.font.bold = xml::ParseBoolean(properties.Attribute("b")).value_or(false);
     run.font.italic = xml::ParseBoolean(properties.Attribute("i")).value_or(false);
@@ -128,7 +128,7 @@ class BodyReader {
   const Palette& palette_;
   pugi::xml_node body_;
   Color automatic_;
-  double scale_ = 1;  ///< of fonts in a text that Excel shrank to fit
+  double scale_ = 1;  ///< the scale of the fonts in a text that Excel shrank to fit
 };
 
 /// A paragraph with its lines broken.
@@ -178,7 +178,7 @@ void DrawShapeText(Canvas& canvas, Tag tag, const ShapeText& text, const Rect& f
   const Placement turned = placement.Turned(frame.Center(), text.rotation);
   Rect box = frame;
   if (std::abs(std::abs(text.rotation) - 90) < 1) {
-    // Lines of a text that is turned by a right angle go along the other edge.
+    // The lines of a text that is rotated by a right angle are parallel to the other edge.
     const Point center = frame.Center();
     box = {center.x - frame.height / 2, center.y - frame.width / 2, frame.height, frame.width};
   }

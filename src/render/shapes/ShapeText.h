@@ -36,7 +36,7 @@ struct ShapeText {
   bool IsEmpty() const;
 };
 
-/// Reads the text of a shape (sp). Runs without a colour have `automatic`.
+/// Reads the text of a shape (sp). Runs without a colour get the colour `automatic`.
 ShapeText ReadShapeText(const Palette& palette, pugi::xml_node object, const Color& automatic);
 /// Draws a text in the frame of its shape.
 void DrawShapeText(Canvas& canvas, Tag tag, const ShapeText& text, const Rect& frame,

@@ -14,7 +14,7 @@ namespace {
 
 namespace xml = xlsx::xml;
 
-/// Returns a place on the chart from an anchor, which has fractions of the chart.
+/// Returns a point on the chart from a corner of an anchor, which contains fractions of the chart's size.
 Point PlaceOf(pugi::xml_node corner, const Rect& chart) {
   const auto fraction = [&](const char* name) {
     const double value = xml::ParseDouble(xml::Text(xml::Child(corner, name))).value_or(0);

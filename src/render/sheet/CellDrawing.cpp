@@ -24,7 +24,7 @@ constexpr double kCellPadding = 1.5;
 constexpr int kBlanksPerIndent = 3;
 constexpr double kGridLineWidth = 0.35;
 constexpr Color kBlack{0, 0, 0, 1};
-/// The number of columns beside the page that are searched for texts which extend into it.
+/// The number of columns beside the page that are searched for texts that extend into it.
 constexpr std::int32_t kMostSpread = 30;
 /// The height of a strike-through line above the baseline, and its width, as shares of the font size.
 constexpr double kStrikeHeight = 0.28, kStrikeWidth = 0.06;
@@ -107,7 +107,7 @@ class CellDrawing {
     ForEachCell([&](std::int32_t row, std::int32_t column) {
       const auto& fill = sheet_.LookAt(row, column).fillColor;
       if (!fill || IsMerged(row, column)) return;
-      // Neighbours of one colour are one rectangle, so that no seam is visible between them.
+      // Neighbouring cells of one colour are one rectangle, so that no seam is visible between them.
       const auto isAlike = [&](std::int32_t other) {
         return sheet_.LookAt(row, other).fillColor == fill && !IsMerged(row, other);
       };
@@ -150,7 +150,7 @@ class CellDrawing {
   }
 
  private:
-  /// Hidden rows and columns are skipped.
+  /// Calls `visit` for each cell of the page. Hidden rows and columns are skipped.
   template <class Visit>
   void ForEachCell(const Visit& visit) {
     for (std::int32_t row = page_.row1; row <= page_.row2; ++row) {
@@ -204,7 +204,7 @@ class CellDrawing {
     if (side != TextSide::kLeft) SpreadLeft(row, column, half, seen);
     const Rect page = sheet_.AreaOf(page_);
     if (!onPage && (seen.Right() <= page.left || seen.left >= page.Right())) return;
-    // A centred text is in the middle of its own cell, not of all cells that it covers.
+    // A centred text is centred in its own cell, and not in all cells that it covers.
     Rect area = own;
     if (missing > 0 && side != TextSide::kRight) area.width += half;
     if (missing > 0 && side != TextSide::kLeft) {
@@ -257,7 +257,7 @@ class CellDrawing {
     double top = inside.Bottom() - kPointsPerPixel - height;
     if (look.vertical == VerticalAlignment::kTop) top = inside.top + kPointsPerPixel;
     if (look.vertical == VerticalAlignment::kCenter) top = inside.top + (inside.height - height) / 2;
-    // A text that is higher than its cell shows its beginning.
+    // If a text is higher than its cell, its beginning is visible.
     if (look.wrap && height > inside.height) top = inside.top;
 
     const bool sticksOut =

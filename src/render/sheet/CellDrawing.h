@@ -6,7 +6,7 @@
 
 namespace plotsmith::render {
 
-/// Draws the cells of a page: fillings, texts, borders and, with `gridLines`, grid lines. Positions are in
+/// Draws the cells of a page: fills, texts, borders and, with `gridLines`, grid lines. Positions are in
 /// points from the top left corner of the sheet.
 void DrawCells(SheetReader& sheet, const xlsx::CellRange& page, bool gridLines, Canvas& canvas);
 

@@ -31,7 +31,7 @@ void WrapParagraph(std::string_view text, double width, const WidthOf& widthOf,
   if (text.empty()) lines.emplace_back();
   std::string line;
   while (!text.empty()) {
-    // This is a word with the blanks before it.
+    // The piece is a word with the spaces before it.
     const std::size_t begin = std::min(text.find_first_not_of(' '), text.size());
     const std::size_t end = std::min(text.find(' ', begin), text.size());
     const std::string longer = line + std::string(text.substr(0, end));
@@ -77,7 +77,7 @@ std::string FittedNumber(double number, const std::string& text, bool general, d
                          const WidthOf& widthOf) {
   if (widthOf(text) <= width) return text;
   const bool canShorten =
-      general && text.find('E') == std::string::npos;  // Numbers with an exponent hardly become shorter.
+      general && text.find('E') == std::string::npos;  // Numbers with an exponent can hardly be shortened.
   const std::size_t point = text.find_first_of(".,");
   if (canShorten && point != std::string::npos) {
     for (int decimals = static_cast<int>(text.size() - point) - 2; decimals >= 0; --decimals) {

@@ -10,12 +10,12 @@ namespace plotsmith::render {
 /// Returns the width of a text, in points.
 using WidthOf = std::function<double(std::string_view)>;
 
-/// Wraps a text at a width in points. Lines end at line feeds, at blanks, and inside of words that are wider
+/// Wraps a text at a width in points. Lines end at line feeds, at spaces, and inside words that are wider
 /// than a line.
 std::vector<std::string> WrappedLines(std::string_view text, double width, const WidthOf& widthOf);
 
 /// Returns the text that a cell with a width in points shows for a number. If `text` doesn't fit, a number in
-/// the format General (`general`) loses decimals. Other numbers become as many "#" as fit.
+/// General format (`general`) loses decimals. Other numbers become as many "#" as fit.
 std::string FittedNumber(double number, const std::string& text, bool general, double width,
                          const WidthOf& widthOf);
 

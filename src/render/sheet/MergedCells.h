@@ -9,14 +9,14 @@
 
 namespace plotsmith::render {
 
-/// Says which cells are merged. If it is asked row by row from the top, it visits each range once, so that
-/// many ranges on a large page take little time.
+/// Determines which cells are merged. If cells are checked row by row from the top, each range is visited
+/// once. Therefore many ranges on a large page take little time.
 class MergedCells {
  public:
   /// Takes the merged ranges of a sheet, which don't overlap.
   explicit MergedCells(std::vector<xlsx::CellRange> ranges);
 
-  /// Returns true if a cell is in a range. Rows and columns count from 1.
+  /// Returns true if a cell is in a merged range. Rows and columns count from 1.
   bool Hold(std::int32_t row, std::int32_t column);
 
  private:
@@ -24,7 +24,7 @@ class MergedCells {
   void GoTo(std::int32_t row);
 
   std::vector<xlsx::CellRange> ranges_;  ///< sorted by their first rows
-  std::int32_t row_ = 0;                 ///< row that `columns_` is for
+  std::int32_t row_ = 0;                 ///< the row that `columns_` describes
   std::size_t next_ = 0;                 ///< index of the first range that begins below the row
   std::vector<xlsx::CellRange> open_;    ///< ranges that contain the row
   std::vector<std::pair<std::int32_t, std::int32_t>>

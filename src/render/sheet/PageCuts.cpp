@@ -6,7 +6,8 @@
 namespace plotsmith::render {
 namespace {
 
-/// Sizes in files are rounded, so rows or columns that fit may seem a little too large. In points.
+/// The tolerance in points. Sizes in files are rounded, so rows or columns that fit may seem a little too
+/// large.
 constexpr double kSlack = 0.01;
 constexpr int kLeastPercent = 10, kMostPercent = 100;
 
@@ -15,7 +16,8 @@ struct Lines {
   std::int32_t first, last;
 };
 
-/// Returns the lines of the page that begins with `first`. It ends where the room ends, or at a page break.
+/// Returns the lines of the page that begins with `first`. The page ends at the end of the available space,
+/// or at a page break.
 Lines PageFrom(std::int32_t first, std::int32_t last, const xlsx::GridLines& lines, double room,
                const std::vector<std::int32_t>& breaks) {
   const double end = lines.EdgeOf(first - 1) + room + kSlack;
@@ -45,7 +47,7 @@ std::vector<Lines> ListPages(Lines all, const xlsx::GridLines& lines, double roo
 Lines RowsOf(const xlsx::CellRange& range) { return {range.row1, range.row2}; }
 Lines ColumnsOf(const xlsx::CellRange& range) { return {range.column1, range.column2}; }
 
-/// The room between the margins at a scale, in points of the sheet.
+/// The space between the margins at a scale, in points of the sheet.
 struct Room {
   double width, height;
 };
@@ -54,7 +56,7 @@ Room RoomOf(const xlsx::PageSetup& setup, double scale) {
           std::max(setup.paperHeight - setup.top - setup.bottom, 1.0) / scale};
 }
 
-/// Returns whether all ranges fit into the pages that the setup allows. As in Excel, page breaks don't count
+/// Returns whether all ranges fit into the pages that the setup allows. As in Excel, page breaks are ignored
 /// for that.
 bool Fits(const xlsx::PageSetup& setup, const xlsx::SheetGeometry& geometry,
           const std::vector<xlsx::CellRange>& ranges, double scale) {
@@ -79,7 +81,7 @@ double FittingScale(const xlsx::PageSetup& setup, const xlsx::SheetGeometry& geo
   return fits / 100.0;
 }
 
-/// Appends the pages of a range, by rows or by columns of pages as the setup says.
+/// Appends the pages of a range, row by row or column by column, as the setup requires.
 void ListRange(const xlsx::PageSetup& setup, const std::vector<Lines>& rows,
                const std::vector<Lines>& columns, std::size_t most, std::vector<xlsx::CellRange>& pages) {
   const auto add = [&](const Lines& row, const Lines& column) {

@@ -41,7 +41,7 @@ xlsx::PageSetup OnePage(const xlsx::PageSetup& setup) {
   return one;
 }
 
-/// Adds notes about what isn't drawn of printed pages.
+/// Adds notes about parts of printed pages that aren't drawn.
 void NoteMissing(const xlsx::Workbook& book, const xlsx::SheetEntry& sheet, const xlsx::PageSetup& setup,
                  Notes& notes) {
   if (setup.hasHeaderOrFooter) notes.emplace_back("Headers and footers aren't drawn.");
@@ -118,7 +118,7 @@ class WorksheetPages {
     }
   }
 
-  /// Returns the row or column, from 1, in which a place in points is.
+  /// Returns the row or column, from 1, in which a shape ends. `end` is in points.
   static std::int32_t LineAt(const xlsx::GridLines& lines, double end) {
     constexpr double kEdge =
         0.05;  // points; a shape that ends on a grid line isn't in the next row or column
@@ -178,7 +178,7 @@ class WorksheetPages {
   std::vector<xlsx::CellRange> ranges_;
 };
 
-/// Draws a chart sheet, which has its chart between the margins.
+/// Draws a chart sheet. Its chart fills the space between the margins.
 std::vector<Drawing> DrawChartSheet(xlsx::Workbook& book, const xlsx::SheetEntry& sheet,
                                     const TextMeasure& measure, Notes& notes) {
   const auto chart = book.ChartOf(sheet);

@@ -23,7 +23,7 @@ namespace plotsmith::render {
 struct PrintedCell {
   excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;  ///< The kind of the value.
   double number = 0;                                             ///< The value of a number or a date.
-  bool general = false;     ///< Whether it is a number in the format General.
+  bool general = false;     ///< Whether it is a number in General format.
   std::uint32_t style = 0;  ///< The style for SheetReader::LookOf.
   std::string text;         ///< The displayed text, as in Range.Text.
 
@@ -54,14 +54,14 @@ class SheetReader {
   const xlsx::SheetGeometry& Geometry() const { return geometry_; }
   /// The merged ranges of the sheet.
   const std::vector<xlsx::CellRange>& MergedCells();
-  /// Returns the range from A1 to the last cell that has a value, a filling or a border. Returns nothing if
+  /// Returns the range from A1 to the last cell that has a value, a fill or a border. Returns nothing if
   /// there is no such cell.
   std::optional<xlsx::CellRange> PrintedCells();
   /// Returns the rectangle of a range in points from the top left corner of the sheet.
   Rect AreaOf(const xlsx::CellRange& cells) const;
 
  private:
-  /// Returns true if a cell has a value, a filling or a border.
+  /// Returns true if a cell has a value, a fill or a border.
   bool Shows(std::int32_t row, std::int32_t column);
 
   xlsx::Workbook& book_;

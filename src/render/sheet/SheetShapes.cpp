@@ -49,7 +49,7 @@ std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet,
     const xlsx::Frame frame = shape->PlacedFrame();
     const Rect place{frame.left, frame.top, frame.width, frame.height};
     const bool isChart = shape->Type() == excel::msoChart;
-    // Its rows or columns are hidden. A line may have no height or no width.
+    // Shapes in hidden rows or columns are skipped. A line may have no height or no width.
     if (isChart ? place.width <= 0 || place.height <= 0 : place.width <= 0 && place.height <= 0) continue;
     Notes own;
     try {
@@ -61,7 +61,7 @@ std::vector<DrawnShape> DrawShapes(xlsx::Workbook& book, xlsx::Worksheet& sheet,
     } catch (const runtime::RuntimeError&) {
       notes.push_back("\"" + shape->Name() + "\": It can't be read; nothing is drawn.");
     }
-    // Notes on a shape already name it.
+    // The notes about a shape already contain its name.
     for (const std::string& note : own)
       notes.push_back((isChart ? "\"" + shape->Name() + "\": " : "") + note);
   }

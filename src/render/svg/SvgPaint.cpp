@@ -125,15 +125,15 @@ std::string GradientElement(const GradientFill& gradient, const Rect& bounds) {
            SvgNumber(gradient.focus.y) + "\" r=\"" + SvgNumber(UnitRadiusOf(gradient)) + "\">" +
            StopsOf(gradient) + "</radialGradient>";
   }
-  // A gradient along an edge can be given in fractions of the bounds, so all shapes with this filling share
-  // one element. Other angles would change with the proportions of the bounds.
+  // A gradient along an edge can be given in fractions of the bounds, so all shapes with this fill share one
+  // element. Other angles would change with the proportions of the bounds.
   const bool shared = std::fmod(gradient.angle, 90) == 0;
   const GradientLine line = LineOf(gradient, shared ? Rect{0, 0, 1, 1} : bounds);
   return "<linearGradient id=\"@\"" + LineAttributes(line) +
          (shared ? "" : " gradientUnits=\"userSpaceOnUse\"") + ">" + StopsOf(gradient) + "</linearGradient>";
 }
 
-/// Returns the set pixels of a tile as a path. Neighbours in a row are one rectangle.
+/// Returns the set pixels of a tile as a path. Neighbouring pixels in a row are one rectangle.
 std::string PixelsOf(const PatternTile& tile) {
   std::string path;
   for (int y = 0; y < kPatternSize; ++y) {

@@ -15,7 +15,7 @@ void AppendHundredths(std::string& text, long long hundredths);
 /// Escapes a text for elements and attributes of XML. Characters that XML doesn't allow are left out.
 std::string SvgEscape(std::string_view text);
 
-/// Collects the definitions that fillings refer to. Equal definitions are written once.
+/// Collects the definitions that fills refer to. Equal definitions are written once.
 class SvgDefinitions {
  public:
   /// Makes an empty collection. All ids will begin with `prefix`.
@@ -32,7 +32,7 @@ class SvgDefinitions {
   std::string text_;
 };
 
-/// Returns the attributes of a filling of `bounds`, with a blank in front, such as ` fill="#FF0000"`.
+/// Returns the attributes of a fill of `bounds`, with a space in front, such as ` fill="#FF0000"`.
 std::string FillAttributes(const Fill& fill, const Rect& bounds, SvgDefinitions& definitions);
 
 }  // namespace plotsmith::render

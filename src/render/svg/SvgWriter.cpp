@@ -13,7 +13,7 @@
 namespace plotsmith::render {
 namespace {
 
-/// Appends the commands and numbers of a path, with a blank only between numbers that would run together.
+/// Appends the commands and numbers of a path, with a space only between numbers that would run together.
 class PathText {
  public:
   explicit PathText(std::string& text) : text_(text) {}
@@ -96,7 +96,7 @@ void AppendNumberAttribute(std::string& text, std::string_view name, double valu
   text += '"';
 }
 
-/// Appends the attributes of an outline. `hasCorners` says whether the form of corners is visible.
+/// Appends the attributes of an outline. `hasCorners` is true if the shape of its corners is visible.
 void AppendStrokeAttributes(std::string& text, const Stroke& stroke, bool hasCorners) {
   if (!(stroke.width > 0)) return;
   text += " stroke=\"";
@@ -141,8 +141,8 @@ std::string FontAttributes(const std::string& family, double size, const Font& u
   return text;
 }
 
-/// Returns the most frequent family and size, which the root element sets for all texts. They are empty and 0
-/// if there is no text.
+/// Returns the most frequent font family and size, which the root element sets for all texts. If there is no
+/// text, they are empty and 0.
 Font UsualFont(const Drawing& drawing) {
   std::map<std::pair<std::string, double>, int> counts;
   int most = 0;
@@ -158,17 +158,17 @@ Font UsualFont(const Drawing& drawing) {
   return usual;
 }
 
-/// Returns whether a text has blanks that viewers drop unless an attribute preserves them.
+/// Returns whether a text has white space that viewers drop unless an attribute preserves it.
 bool LosesBlanks(std::string_view text) {
   return text.starts_with(' ') || text.ends_with(' ') || text.find("  ") != std::string_view::npos ||
          text.find_first_of("\t\n") != std::string_view::npos;
 }
 
-/// A placeholder for the prefix of ids while the file is written. No text contains it, as XML doesn't allow
-/// it.
+/// A placeholder for the prefix of ids while the file is written. No text contains it, because XML doesn't
+/// allow it.
 constexpr const char* kPrefixLeftOpen = "\x01";
 
-/// Returns a prefix for ids, a hash of the whole file, so that the ids of other drawings differ.
+/// Returns a prefix for ids. It is a hash of the whole file, so that the ids of different drawings differ.
 std::string PrefixFor(std::string_view svg) {
   std::uint32_t hash = 2166136261;  // FNV-1a
   for (const char byte : svg) hash = (hash ^ static_cast<unsigned char>(byte)) * 16777619;
@@ -234,8 +234,8 @@ class Writer {
     }
     if (item.color.alpha < 1) body_ += " opacity=\"" + SvgNumber(item.color.alpha) + '"';
     if (item.blur > 0) {
-      // The region of the filter is the drawing and what a blur takes from around it. The default region
-      // of a line without a height would be empty.
+      // The region of the filter is the drawing with the margin that the blur needs. The default region would
+      // be empty for a line without a height.
       const double around = 3 * item.blur;
       const std::string id =
           definitions_.IdOf("<filter id=\"@\" filterUnits=\"userSpaceOnUse\" x=\"" + SvgNumber(-around) +
@@ -255,7 +255,7 @@ class Writer {
 
  private:
   const Font usual_;
-  const double width_, height_;  // size of the drawing in points
+  const double width_, height_;  // the size of the drawing in points
   SvgDefinitions definitions_{kPrefixLeftOpen};
   std::string body_;
   int groups_ = 0;

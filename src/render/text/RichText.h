@@ -11,23 +11,23 @@ namespace plotsmith::render {
 /// The format of a text.
 struct TextStyle {
   Font font;                       ///< The font, and its size in points.
-  Color color;                     ///< The colour of the letters.
+  Color color;                     ///< The colour of the text.
   std::optional<double> rotation;  ///< The rotation in degrees clockwise; absent if it is automatic.
-  bool stacked = false;            ///< Whether letters are below each other.
+  bool stacked = false;            ///< Whether characters are stacked vertically.
 };
 
 /// A part of a text in one format.
 struct TextRun {
   std::string text;  ///< The text in UTF-8, without line feeds.
   Font font;         ///< The font, and its size in points.
-  Color color;       ///< The colour of the letters.
+  Color color;       ///< The colour of the text.
 };
 /// A text of paragraphs, which consist of runs.
 struct RichText {
   /// The paragraphs from top to bottom. Each is a list of runs, which is empty for an empty line.
   std::vector<std::vector<TextRun>> paragraphs;
   std::optional<double> rotation;  ///< The rotation in degrees clockwise; absent if it is automatic.
-  bool stacked = false;            ///< Whether letters are below each other.
+  bool stacked = false;            ///< Whether characters are stacked vertically.
 
   /// Returns true if no run has a text.
   bool IsEmpty() const;

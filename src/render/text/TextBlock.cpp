@@ -11,10 +11,11 @@ namespace {
 
 constexpr std::size_t kMostLines = 200;  // More lines don't fit on any chart.
 
-/// A part of a run up to the next place where a line may break. It contains the blanks that follow the word.
+/// A part of a run up to the next position where a line may break. It contains the spaces that follow the
+/// word.
 struct Word {
   TextRun run;
-  double width = 0, trimmed = 0;  ///< with and without the blanks at its end
+  double width = 0, trimmed = 0;  ///< with and without the spaces at its end
 };
 
 std::vector<Word> WordsOf(const std::vector<TextRun>& runs, const TextMeasure& measure) {
@@ -64,7 +65,8 @@ TextLine Finished(std::vector<TextRun> runs, const TextMeasure& measure) {
   return line;
 }
 
-/// Returns how many bytes at the start of a text fit into a width. They are at least those of one character.
+/// Returns how many bytes at the start of a text fit into a width. The result includes at least one
+/// character.
 std::size_t FittingBytes(std::string_view text, const Font& font, double width, const TextMeasure& measure) {
   std::size_t fitting = 0;
   while (fitting < text.size()) {
@@ -180,8 +182,7 @@ void DrawBlock(Canvas& canvas, Tag tag, const TextBlock& block, Point center, Te
                                    : align == TextAlign::kMiddle ? free / 2
                                                                  : free);
     y += line.ascent;
-    // A line of one run is anchored at its aligned side, so that it stays aligned in viewers with other
-    // fonts.
+    // A line with one run is anchored at its aligned side. It stays aligned in viewers with other fonts.
     const bool single = line.runs.size() == 1;
     const double shift = !single || align == TextAlign::kStart ? 0
                          : align == TextAlign::kMiddle         ? line.width / 2

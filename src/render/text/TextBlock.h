@@ -42,7 +42,7 @@ struct TextBlock {
   bool IsEmpty() const { return lines.empty(); }
 };
 
-/// Breaks a text into lines that aren't wider than `width`, in points. Lines break at blanks, and inside of
+/// Breaks a text into lines that aren't wider than `width`, in points. Lines break at spaces, and inside
 /// words that are wider than a line.
 TextBlock LayOut(RichText text, const TextMeasure& measure, double width = kUnlimited);
 /// Breaks a text in one style into lines, in the same way. Line feeds break lines, too.

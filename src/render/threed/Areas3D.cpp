@@ -15,8 +15,8 @@ namespace {
 /// A border of an area: a share of the value axis for each category.
 using Border = std::vector<double>;
 
-/// Returns the lower and the upper border of each series. They are stacked if the group is. A missing value
-/// adds nothing.
+/// Returns the lower and the upper border of each series. The borders are stacked if the group is. A missing
+/// value adds nothing.
 std::vector<std::pair<Border, Border>> BordersOf(const Stage& stage) {
   const GroupModel& group = stage.Group();
   const Extents extents = StackValues(group);
@@ -48,7 +48,7 @@ std::vector<std::size_t> SeriesBackToFront(const Stage& stage, double eye) {
   return BackToFront(middles, eye);
 }
 
-/// Returns the stretches between neighbouring categories in painting order. The number of a stretch is that
+/// Returns the intervals between neighbouring categories in painting order. The number of an interval is that
 /// of its first category, from 0.
 std::vector<std::size_t> StretchesBackToFront(const Stage& stage, double eye) {
   std::vector<double> middles;
@@ -87,8 +87,8 @@ class AreaPainter {
   }
 
  private:
-  /// Paints stacked areas: their strips, their ends, and then their fronts, which are in one plane before all
-  /// others.
+  /// Paints stacked areas: their strips, their ends, and then their fronts. The fronts are all in one plane,
+  /// in front of the other faces.
   void PaintStack(const std::vector<std::size_t>& stack) {
     for (const std::size_t stretch : stretches_) {
       const auto seen = [&](std::size_t series) {
@@ -106,7 +106,7 @@ class AreaPainter {
   }
 
   /// Paints the lower and the upper strip between two categories. If the borders cross, the strips are
-  /// exchanged there.
+  /// exchanged at the crossing.
   void PaintStretch(std::size_t stretch, std::size_t lowest, std::size_t highest) {
     const Edge below = EdgeOf(borders_[lowest].first, stretch),
                above = EdgeOf(borders_[highest].second, stretch);
@@ -121,7 +121,7 @@ class AreaPainter {
     }
   }
 
-  /// Paints a strip over the depth of a series. Its outside is above or below.
+  /// Paints a strip over the depth of a series. If `up` is true, its outside is above; otherwise it is below.
   void PaintStrip(std::size_t stretch, double from, double to, const Edge& edge, std::size_t series,
                   bool up) {
     const double left = stage_.Category(stretch).Middle(), right = stage_.Category(stretch + 1).Middle();

@@ -14,14 +14,14 @@
 namespace plotsmith::render {
 namespace {
 
-/// The place of a bar, in shares of the axes.
+/// The position of a bar, in shares of the axes.
 struct Standing {
   std::size_t series = 0, point = 0;
   Span across, depth, along;
   bool negative = false;
 };
 
-constexpr std::size_t kMostBars = 60'000;  // More can't be told apart, and each has several faces.
+constexpr std::size_t kMostBars = 60'000;  // More can't be distinguished, and each has several faces.
 
 std::vector<Standing> BarsOf(const Stage& stage) {
   const GroupModel& group = stage.Group();
@@ -41,7 +41,7 @@ std::vector<Standing> BarsOf(const Stage& stage) {
   return bars;
 }
 
-/// Orders bars from the farthest to the nearest. Bars are in a grid, so it is enough to compare one direction
+/// Sorts bars from the farthest to the nearest. Bars are in a grid, so it is enough to compare one direction
 /// after the other.
 void SortBackToFront(std::vector<Standing>& bars, const Point3& eye) {
   const auto distances = [&](const Standing& bar) {
@@ -52,8 +52,8 @@ void SortBackToFront(std::vector<Standing>& bars, const Point3& eye) {
                    [&](const Standing& a, const Standing& b) { return distances(a) > distances(b); });
 }
 
-/// The places of the tips of cones and pyramids on the value axis: the end of their stack, or the greatest
-/// value of all.
+/// The positions of the tips of cones and pyramids on the value axis: the end of their stack, or the greatest
+/// value of all bars.
 class Tips {
  public:
   Tips(const Stage& stage, const std::vector<Standing>& bars) : base_(stage.Value(stage.Base())) {

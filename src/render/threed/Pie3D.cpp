@@ -28,7 +28,7 @@ struct Slice {
 };
 
 std::vector<Slice> SlicesOf(const SeriesModel& series, double firstAngle) {
-  // Values are shares of the greatest one, because their sum may be infinite.
+  // The values are divided by the greatest one, because their sum may be infinite.
   double most = 0, whole = 0;
   for (const double value : series.values) most = std::max(most, std::isfinite(value) ? std::abs(value) : 0);
   for (const double value : series.values)
@@ -48,7 +48,8 @@ std::vector<Slice> SlicesOf(const SeriesModel& series, double firstAngle) {
   return slices;
 }
 
-/// The disc on the picture. Its upper side is an ellipse, and its lower side the same ellipse farther down.
+/// The disc on the picture. Its upper side is an ellipse, and its lower side is the same ellipse farther
+/// down.
 class Disc {
  public:
   Disc(const View& view, const Rect& room, double explosion) {
@@ -77,7 +78,7 @@ class Disc {
 
 Point Below(Point point, double drop) { return {point.x, point.y + drop}; }
 
-/// A vertical face of a slice, and how near it is to the viewer.
+/// A vertical face of a slice, with its nearness to the viewer.
 struct Wall {
   Path path;
   Fill fill;
@@ -91,7 +92,7 @@ class SliceWalls {
   SliceWalls(const Disc& disc, const SeriesModel& series, std::vector<Wall>& walls)
       : disc_(disc), series_(series), walls_(walls) {}
 
-  /// Adds the visible part of the rim, which is the half of it in front.
+  /// Adds the visible part of the rim, which is its front half.
   void AddRim(const Slice& slice) {
     for (const double front : {180.0, 540.0}) {
       const double from = std::max(slice.from, front - 90);
@@ -122,7 +123,7 @@ class SliceWalls {
     path.AddPolygon({middle, edge, Below(edge, disc_.Drop()), Below(middle, disc_.Drop())});
     Add(slice, std::move(path), Lit(StyleOf(slice).fill, kCutLight), (middle.y + edge.y) / 2);
   }
-  /// Returns the filling of a part of the rim, which is darker towards the sides.
+  /// Returns the fill of a part of the rim, which is darker towards the sides.
   Fill RimFill(const Slice& slice, double from, double to) const {
     const Fill& fill = StyleOf(slice).fill;
     const auto* solid = std::get_if<SolidFill>(&fill);
@@ -174,7 +175,7 @@ namespace {
 DrawnPoint PointOf(const GroupModel& group, const Slice& slice, const Disc& disc) {
   const Rect ellipse = disc.EllipseOf(slice);
   DrawnPoint point{&group, &group.series.front(), slice.point};
-  // The box includes the rim, as labels in front of the disc don't cover it.
+  // The box includes the rim, because labels in front of the disc don't cover the rim.
   point.box = {ellipse.left, ellipse.top, ellipse.width, ellipse.height + disc.Drop()};
   point.angle = slice.from;
   point.sweep = slice.sweep;
@@ -183,7 +184,7 @@ DrawnPoint PointOf(const GroupModel& group, const Slice& slice, const Disc& disc
   return point;
 }
 
-/// Returns the room that labels beside a disc leave.
+/// Returns the space that labels beside a disc leave.
 Rect WithoutLabels(const Plot& plot, const GroupModel& group, const std::vector<Slice>& slices,
                    const Disc& disc) {
   const LabelsModel& labels = group.series.front().labels;
@@ -200,7 +201,7 @@ Rect WithoutLabels(const Plot& plot, const GroupModel& group, const std::vector<
     across = std::max(across, std::abs(std::sin(slice.Middle() * kRadian)) * width + 2);
     down = std::max(down, std::abs(std::cos(slice.Middle() * kRadian)) * height + 2);
   }
-  constexpr double kMost = 0.35;  // share of the room that labels may take on each side
+  constexpr double kMost = 0.35;  // share of the space that labels may take on each side
   return Inset(plot.area, std::min(across, plot.area.width * kMost),
                std::min(down, plot.area.height * kMost));
 }
@@ -222,7 +223,7 @@ void DrawPie3D(xlsx::ChartPart& part, Plot& plot, const GroupModel& group) {
     adder.AddRim(slice);
     if (explosion > 0) adder.AddCuts(slice);
   }
-  // Walls don't cover upper sides, because they are below them.
+  // Walls don't cover the upper sides of slices, because walls are below them.
   DrawWalls(plot.canvas, walls);
   for (const Slice& slice : slices) {
     const ShapeStyle& style = series.StyleOf(slice.point);

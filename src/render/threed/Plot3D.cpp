@@ -25,8 +25,8 @@ const GroupModel* FindGroup(const ChartModel& chart) {
   return nullptr;
 }
 
-/// Returns the projection with which the labels stay in the room. Their extent depends on the edges of the
-/// box, so the projection is found in steps.
+/// Returns the projection at which the labels stay in the rectangle `area`. Their extent depends on the edges
+/// of the box, so the projection is found in steps.
 Projection FitWithLabels(const Stage& stage, const StageAxes& axes, const View& view, const Rect& area) {
   const auto shapeFor = [&](const Rect& room) {
     // A contour chart fills its space like a flat chart.

@@ -7,7 +7,7 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr double kFar = 1e7;          // distance of the viewer in a parallel projection, in boxes
+constexpr double kFar = 1e7;          // the distance of the viewer in a parallel projection, in boxes
 constexpr double kLeastHeight = 0.3;  // share of the room that the front of a deep box keeps
 constexpr double kFlattest = 0.05, kSteepest = 5;  // Excel's limits of height divided by width
 
@@ -23,7 +23,7 @@ Projection::Projection(const View& view, const BoxShape& shape, const Rect& room
   cosElevation_ = std::cos(view.elevation * kRadian);
   side_ = cosRotation_ < 0 ? -1 : 1;
   if (!oblique_ && view.fieldOfView > 0) {
-    distance_ = 0.5 / std::tan(view.fieldOfView / 2 * kRadian) + 0.5;  // This is outside of the box.
+    distance_ = 0.5 / std::tan(view.fieldOfView / 2 * kRadian) + 0.5;  // The viewer is outside of the box.
   }
   if (view.heightPercent) {
     SetShape(shape, *view.heightPercent / 100);
@@ -56,7 +56,7 @@ void Projection::FillSpace(const BoxShape& shape, const Rect& room) {
   }
 }
 
-/// Finds the height with which the box has the proportions of the room on the picture.
+/// Finds the height at which the box has the proportions of the available rectangle on the picture.
 void Projection::FindShape(const BoxShape& shape, const Rect& room) {
   const double wanted = room.height / std::max(room.width, 1e-3);
   double low = kFlattest, high = kSteepest;
@@ -81,7 +81,7 @@ Point3 Projection::Place(double x, double y, double z) const {
   return {x * box_.width, y * box_.height, z * box_.depth};
 }
 
-/// Returns the place on the picture before it is scaled. y grows downwards.
+/// Returns the point on the picture before it is scaled. Y grows downwards.
 Point Projection::Flat(const Point3& place) const {
   const double x = place.x - box_.width / 2, y = place.y - box_.height / 2, z = place.z - box_.depth / 2;
   if (oblique_) return {side_ * x + z * sinRotation_, -(y + side_ * z * sinElevation_)};
@@ -133,7 +133,7 @@ bool Projection::Shows(std::span<const Point3> corners) const {
     const Point a = Project(corners[i]), b = Project(corners[(i + 1) % corners.size()]);
     twiceArea += a.x * b.y - b.x * a.y;
   }
-  constexpr double kLeast = 1e-4;  // twice the area, in square points; smaller faces are seen from their edge
+  constexpr double kLeast = 1e-4;  // twice the area, in square points; smaller faces are seen edge-on
   return twiceArea < -kLeast;
 }
 

@@ -35,8 +35,8 @@ struct BoxShape {
 /// Converts positions in the box to points on the picture.
 class Projection {
  public:
-  /// Fits a box into the rectangle `room`. The box fills the rectangle, unless the view sets its height; then
-  /// it is centred.
+  /// Fits a box into the rectangle `room`. The box fills the rectangle. If the view sets its height, it is
+  /// centred instead.
   Projection(const View& view, const BoxShape& shape, const Rect& room);
 
   /// The size of the box.
@@ -45,7 +45,7 @@ class Projection {
   Point3 Place(double x, double y, double z) const;
   /// Returns the point on the picture for a position in the box.
   Point Project(const Point3& place) const;
-  /// Returns the position of the viewer. It is far away if the projection is parallel.
+  /// Returns the position of the viewer. In a parallel projection, it is far away.
   Point3 Eye() const;
   /// Returns true if the viewer sees the outside of a plane face. Seen from outside, the corners are in
   /// counter-clockwise order.
@@ -62,7 +62,7 @@ class Projection {
   bool oblique_ = false;
   double sinRotation_ = 0, cosRotation_ = 1, sinElevation_ = 0, cosElevation_ = 1;
   double side_ = 1;  ///< -1 for a view from behind with axes at right angles, otherwise 1.
-  /// The distance of the viewer from the middle of a box with a diagonal of 1. 0 is a parallel projection.
+  /// The distance of the viewer from the middle of a box with a diagonal of 1. 0 means a parallel projection.
   double distance_ = 0;
   Box box_;
   double scale_ = 1;

@@ -12,7 +12,7 @@ double LightOf(const Point3& normal) {
 }
 
 Point3 NormalOf(std::span<const Point3> corners) {
-  // This is Newell's method, which allows corners on a line.
+  // This is Newell's method, which allows several corners on a line.
   Point3 normal;
   for (std::size_t i = 0; i < corners.size(); ++i) {
     const Point3 &a = corners[i], &b = corners[(i + 1) % corners.size()];

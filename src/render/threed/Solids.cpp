@@ -48,7 +48,7 @@ std::vector<Point> HullOf(std::vector<Point> points) {
   return hull;
 }
 
-/// Returns a place of a bar by its shares: along from base to tip, across, and from front to back.
+/// Returns a point of a bar by its shares: along the bar from base to tip, across it, and from front to back.
 Point3 OnBar(const BarSpace& space, double along, double across, double back) {
   const double width = space.baseWidth + (space.endWidth - space.baseWidth) * along;
   const double way = space.backwards ? 1 - along : along;
@@ -66,7 +66,7 @@ Face CapOf(const BarSpace& space, std::span<const Point> outline, End end) {
   const bool atTip = end == End::kTip;
   Face cap;
   for (const Point point : outline) cap.push_back(OnBar(space, atTip ? 1 : 0, point.x, point.y));
-  // The outline goes counter-clockwise, with y to the back.
+  // The outline goes counter-clockwise, with Y to the back.
   if (atTip == (space.backwards != space.alongX)) std::reverse(cap.begin(), cap.end());
   return cap;
 }
@@ -80,7 +80,7 @@ void AddPyramid(Canvas& canvas, const Projection& projection, const BarSpace& sp
   if (!IsPoint(space.endWidth)) faces.push_back(tip);
   for (std::size_t i = 0; i < base.size(); ++i) {
     const std::size_t next = (i + 1) % base.size();
-    // The corners of the tip go in the other direction than those of the base.
+    // The corners of the tip are in the opposite order to those of the base.
     Face side = {base[next], base[i], tip[tip.size() - 1 - i]};
     if (!IsPoint(space.endWidth)) side.push_back(tip[tip.size() - 1 - next]);
     faces.push_back(std::move(side));
@@ -88,7 +88,7 @@ void AddPyramid(Canvas& canvas, const Projection& projection, const BarSpace& sp
   AddFaces(canvas, projection, faces, look);
 }
 
-/// Returns the filling of a round body, which is lit from one side to the other.
+/// Returns the fill of a round body, which is lit from one side to the other.
 Fill Rounded(const Fill& fill, bool alongX) {
   const auto* solid = std::get_if<SolidFill>(&fill);
   if (solid == nullptr) return fill;

@@ -14,7 +14,7 @@ namespace plotsmith::render {
 struct Look {
   /// The element that the faces show.
   Tag tag;
-  /// The filling of a face in full light. Other faces are darker.
+  /// The fill of a face in full light. Other faces are darker.
   Fill fill;
   /// The line along all edges.
   Stroke stroke;
@@ -38,8 +38,8 @@ enum class BarForm : std::uint8_t { kBox, kCylinder, kCone, kPyramid };
 struct BarShape {
   /// The form of the body.
   BarForm form = BarForm::kBox;
-  /// Whether the tip is at the greatest value of the chart, and the form is cut off at the value of the bar
-  /// ("coneToMax").
+  /// Whether the tip is at the greatest value of the chart ("coneToMax"). Each bar is then cut off at its own
+  /// value.
   bool toGreatest = false;
 };
 /// Returns the form for a value of ST_Shape. It is a box for an unknown value.

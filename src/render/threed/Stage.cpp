@@ -42,7 +42,7 @@ double Stage::BarShare() const {
 }
 
 BoxShape Stage::Shape(const View& view) const {
-  // A bar on an axis of dates is as wide as its slot. Other bodies extend from date to date.
+  // A bar on a date axis is as wide as its slot. Other bodies extend from date to date.
   const bool byDay = Categories().dates && group_.family == Family::kBar;
   const double slots = byDay ? std::max(Categories().dates->count, 1.0) : static_cast<double>(categories_);
   const double bar = BarShare() / slots;

@@ -27,7 +27,7 @@ class Stage {
 
   /// The group that is drawn.
   const GroupModel& Group() const { return group_; }
-  /// Returns true if a missing value counts as zero, which has a body without a height.
+  /// Returns true if a missing value counts as zero, whose body has no height.
   bool BlanksAreZero() const { return chart_.blanks == "zero"; }
   /// The category axis.
   const AxisModel& Categories() const { return chart_.axes[static_cast<std::size_t>(group_.category)]; }
@@ -46,14 +46,14 @@ class Stage {
   bool PointsAreOnTicks() const;
   /// Returns the space of a category by its index, from 0.
   Span Category(std::size_t index) const;
-  /// Returns where a category by its index, from 0, begins along its axis. The number of categories gives the
-  /// end of the last one.
+  /// Returns the position at which a category, by its index from 0, begins on its axis. For the number of
+  /// categories as the index, returns the end of the last one.
   double EdgeBefore(std::size_t index) const;
   /// Returns the space for the bar of a series in a category. Both indices count from 0.
   Span Bar(std::size_t category, std::size_t series) const;
   /// Returns the space of a series in the depth. All series of a stacked group have the same space.
   Span Depth(std::size_t series) const;
-  /// Returns the position of a value. Values beyond the axis are at its ends.
+  /// Returns the position of a value. Values beyond the axis get the position of its end.
   double Value(double value) const;
   /// Returns the position at which bars and areas begin.
   double Base() const;

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double kTickLength = 3.75;  // points
 constexpr double kLabelGap = 5;       // points from the axis to its labels
-constexpr double kInkOfLine = 0.8;    // share of the height of a line that its letters take
+constexpr double kInkOfLine = 0.8;    // share of the height of a line that its characters take
 constexpr std::size_t kMostLabels = 1000;
 
 Point Along(const Projection& projection, const Point3& from, const Point3& to, double share) {
@@ -107,25 +107,25 @@ StageAxes::BoxEdge StageAxes::UprightEdge(const Projection& projection) const {
   return best;
 }
 
-/// Returns the one of two edges of the floor that is lower on the picture, and so nearer to the viewer. At
-/// the same height it is the first.
+/// Returns that one of two edges of the floor that is lower on the picture, and therefore nearer to the
+/// viewer. If they have the same height, it is the first one.
 StageAxes::BoxEdge StageAxes::LowerOf(const Projection& projection, BoxEdge first, const BoxEdge& second) {
   const double lower = Along(projection, second.from, second.to, 0.5).y;
   return lower > Along(projection, first.from, first.to, 0.5).y + 1e-6 ? second : first;
 }
 
-/// Returns the edge along x. Labels are beside it if it is steep, otherwise below it.
+/// Returns the edge of the floor along X. Labels are beside it if it is steep, otherwise below it.
 StageAxes::BoxEdge StageAxes::LowerEdge(const Projection& projection) const {
   BoxEdge edge = LowerOf(projection, {{0, 0, 0}, {1, 0, 0}}, {{0, 0, 1}, {1, 0, 1}});
   edge.beside = IsSteep(projection, edge) ? SideOf(projection, edge) : Beside::kBelow;
   return edge;
 }
 
-/// Returns the edge of the floor along z.
+/// Returns the edge of the floor along Z.
 StageAxes::BoxEdge StageAxes::SeriesEdge(const Projection& projection) const {
   BoxEdge edge = LowerOf(projection, {{1, 0, 0}, {1, 0, 1}}, {{0, 0, 0}, {0, 0, 1}});
   edge.beside = SideOf(projection, edge);
-  // The labels of the vertical edge are at the left, too.
+  // The labels of the vertical edge are also at the left.
   if (edge.beside == Beside::kLeft && !IsSteep(projection, edge)) edge.beside = Beside::kBelow;
   return edge;
 }
@@ -135,7 +135,7 @@ bool StageAxes::IsSteep(const Projection& projection, const BoxEdge& edge) {
   return std::abs(a.y - b.y) > std::abs(a.x - b.x);
 }
 
-/// Returns the side of the picture that an edge of the floor is on.
+/// Returns the side of the picture on which an edge of the floor is.
 StageAxes::Beside StageAxes::SideOf(const Projection& projection, const BoxEdge& edge) {
   const double middle = Along(projection, {0, 0, 0}, {1, 0, 1}, 0.5).x;
   return Along(projection, edge.from, edge.to, 0.5).x < middle - 1e-6 ? Beside::kLeft : Beside::kRight;
@@ -146,7 +146,7 @@ std::vector<StageAxes::PlacedRuler> StageAxes::Place(const Projection& projectio
   std::vector<PlacedRuler> placed = {{&values_, stage_.IsHorizontal() ? lower : upright},
                                      {&categories_, stage_.IsHorizontal() ? upright : lower}};
   if (series_.axis != nullptr) placed.push_back({&series_, SeriesEdge(projection)});
-  // An edge in the direction of view shows nothing of its axis.
+  // An edge in the direction of view doesn't show its axis.
   std::erase_if(placed, [&](const PlacedRuler& one) {
     const Point a = Along(projection, one.edge.from, one.edge.to, 0);
     const Point b = Along(projection, one.edge.from, one.edge.to, 1);
@@ -183,13 +183,13 @@ std::vector<StageAxes::PlacedLabel> StageAxes::LabelsOf(const PlacedRuler& place
   const auto& labels = placed.ruler->labels;
   if (labels.empty()) return {};
   const AxisModel& axis = *placed.ruler->axis;
-  Point step{kUnlimited, kUnlimited};  // distance from one label to the next, in points
+  Point step{kUnlimited, kUnlimited};  // the distance from one label to the next, in points
   if (labels.size() > 1) {
     const Point a = Along(projection, placed.edge.from, placed.edge.to, labels[0].share);
     const Point b = Along(projection, placed.edge.from, placed.edge.to, labels[1].share);
     step = {std::abs(a.x - b.x), std::abs(a.y - b.y)};
   }
-  // Texts below the picture wrap before any label is left out.
+  // Texts below the picture are wrapped before any label is left out.
   const bool breaks = placed.edge.beside == Beside::kBelow && !axis.IsOfValues() && !axis.text.rotation;
   double room = breaks ? std::max(step.x - kLabelGap, 1.0) : kUnlimited;
   for (const Label& label : labels) {
@@ -220,7 +220,7 @@ Rect StageAxes::PlacedGroup::Bounds() const {
   return bounds;
 }
 
-/// The way from an edge of the box to its labels.
+/// Returns the direction from an edge of the box to its labels.
 Point StageAxes::DirectionOf(Beside beside) {
   if (beside == Beside::kBelow) return {0, 1};
   return {beside == Beside::kLeft ? -1.0 : 1.0, 0};

@@ -70,7 +70,7 @@ class StageAxes {
   std::vector<PlacedLabel> LabelsOf(const PlacedRuler& placed, const Projection& projection) const;
   PlacedLabel PlaceLabel(const PlacedRuler& placed, const Label& label, TextBlock block,
                          const Projection& projection) const;
-  /// A text of an outer level of categories, and the line between it and the next text.
+  /// A text of an outer level of categories, and the line between this text and the next one.
   struct PlacedGroup {
     TextBlock block;
     Point center;

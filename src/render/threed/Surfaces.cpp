@@ -23,7 +23,7 @@ Corner Between(const Corner& a, const Corner& b, double share) {
           a.depth + (b.depth - a.depth) * share};
 }
 
-/// What of a polygon is above a value, or below it (Sutherland and Hodgman).
+/// Returns the part of a polygon above a value, or below it (the algorithm of Sutherland and Hodgman).
 std::vector<Corner> Cut(const std::vector<Corner>& polygon, double value, bool above) {
   std::vector<Corner> left;
   const auto inside = [&](const Corner& corner) {
@@ -44,7 +44,7 @@ struct Band {
   const ShapeStyle* style = nullptr;
 };
 
-/// A line that covers the seam between two pieces, which is seen on a picture of pixels.
+/// Returns a line that covers the seam between two pieces, which would be visible on a picture of pixels.
 Stroke WideSeamOf(const Fill& fill) {
   constexpr double kWidth = 0.6;  // points
   Stroke seam = SeamOf(fill);
@@ -86,7 +86,8 @@ class SurfacePainter {
     double place;
   };
 
-  /// Takes all lines, or each so many that the cells can be drawn in little time.
+  /// Takes all lines of the grid. If drawing all cells would take long, takes only some lines, at equal
+  /// distances.
   void ReadGrid() {
     const double kMostPieces = 100'000;
     const double most =
@@ -106,7 +107,7 @@ class SurfacePainter {
     }
   }
 
-  /// The stretches between neighbouring lines in painting order.
+  /// Returns the intervals between neighbouring lines, in painting order.
   template <class Place>
   static std::vector<std::size_t> Order(std::size_t count, const Place& place, double eye) {
     std::vector<double> middles;
@@ -117,7 +118,7 @@ class SurfacePainter {
   Corner At(std::size_t row, std::size_t column) const {
     const auto& values = stage_.Group().series[rows_[row].index].values;
     const std::size_t point = columns_[column].index;
-    // a surface has no holes: a missing value is zero
+    // A surface has no holes, so a missing value is zero.
     const double value = point < values.size() && std::isfinite(values[point]) ? values[point] : 0;
     return {columns_[column].place, stage_.Value(value), rows_[row].place};
   }
@@ -132,7 +133,7 @@ class SurfacePainter {
     path.AddPolygon(corners);
   }
 
-  /// The triangles of a cell, about the mean of its corners.
+  /// Returns the triangles of a cell. They meet at the mean of its corners.
   std::array<std::vector<Corner>, 4> TrianglesOf(std::size_t row, std::size_t column) const {
     const std::array<Corner, 4> corners = {At(row, column), At(row, column + 1), At(row + 1, column + 1),
                                            At(row + 1, column)};
@@ -143,12 +144,12 @@ class SurfacePainter {
     return triangles;
   }
 
-  /// Calls back with each band and what of a triangle is in it.
+  /// Calls `visit` with each band and the part of a triangle that is in it.
   template <class Visit>
   void ForEachPiece(const std::vector<Corner>& triangle, const Visit& visit) const {
     const auto [least, greatest] = std::minmax({triangle[0].value, triangle[1].value, triangle[2].value});
     for (const Band& band : bands_) {
-      // a level triangle on a limit is in the band above it, but for the last one
+      // A level triangle on a limit is in the band above it. On the last limit, it is in the last band.
       const bool isLast = &band == &bands_.back();
       if (greatest < band.from || (least >= band.to && !isLast) ||
           (greatest == band.from && least < greatest))
@@ -187,7 +188,7 @@ class SurfacePainter {
     }
   }
 
-  /// All pieces of a band as one path, as none hides another.
+  /// Paints all pieces of a band as one path, because no piece hides another.
   void PaintContours() {
     std::vector<Path> paths(bands_.size());
     for (std::size_t row = 0; row + 1 < rows_.size(); ++row) {
@@ -206,7 +207,7 @@ class SurfacePainter {
     }
   }
 
-  /// The lines along all series and categories, each piece in the colour of its band.
+  /// Paints the lines along all series and categories. Each piece of a line has the colour of its band.
   void PaintWires() {
     std::vector<Path> paths(bands_.size());
     const auto add = [&](const Corner& a, const Corner& b) {

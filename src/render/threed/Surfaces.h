@@ -10,7 +10,7 @@ namespace plotsmith::render {
 View ContourView();
 
 /// Draws a surface through all values in the colours of its bands, or only its lines if the group is a
-/// wireframe. A contour chart is a surface that is seen from above, without light.
+/// wireframe. A contour chart is a surface that is seen from above, without shading.
 void DrawSurface(Plot& plot, const Stage& stage, const Projection& projection);
 
 }  // namespace plotsmith::render

@@ -11,14 +11,14 @@ struct View {
   double rotation = 20;   ///< Degrees from 0 to 360; right sides are visible between 0 and 180 (rotY).
   bool rightAngles =
       true;  ///< Whether the front isn't distorted, and the depth goes sideways and up (rAngAx).
-  double fieldOfView = 15;  ///< Degrees; 0 is a parallel projection.
+  double fieldOfView = 15;  ///< Degrees; 0 means a parallel projection.
   /// The height of the box in percent of its width (hPercent). It is absent if the box fills its space.
   std::optional<double> heightPercent;
   double depthPercent = 100;  ///< The depth of a bar in percent of its width.
 };
 
-/// Reads the view of a chart (c:view3D of c:chart). Members that the file doesn't have, or that aren't
-/// numbers, have the value of `automatic`, and numbers beyond Excel's limits have the nearest limit.
+/// Reads the view of a chart (c:view3D of c:chart). Settings that the file doesn't have, or that aren't
+/// numbers, get the value of `automatic`. Numbers beyond Excel's limits become the nearest limit.
 View ReadView(pugi::xml_node chart, const View& automatic = {});
 
 }  // namespace plotsmith::render

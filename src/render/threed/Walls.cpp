@@ -26,8 +26,7 @@ void DrawPlane(Canvas& canvas, const Projection& projection, Role role, const st
   canvas.Add({role}, path.AddPolygon(corners), style.fill, style.stroke);
 }
 
-/// Draws a line over two walls, or over a wall and the floor. They meet at the middle one of the three
-/// places.
+/// Draws a line over two walls, or over a wall and the floor. These meet at the second of the three points.
 void DrawGridline(Canvas& canvas, const Projection& projection, Tag tag, const std::vector<Point3>& shares,
                   const Stroke& stroke) {
   Path path;
@@ -80,8 +79,8 @@ class Gridlines {
   void Across(Role role, const AxisModel& axis, int number, double value, const Stroke& stroke) {
     Draw(role, axis, number, stage_.IsHorizontal(), stage_.Value(value), stroke);
   }
-  /// Draws a line. At a share of x, it goes over the floor and up the back wall; at a share of y, over two
-  /// walls.
+  /// Draws a line. At a share of X, it goes over the floor and up the back wall. At a share of Y, it goes
+  /// over two walls.
   void Draw(Role role, const AxisModel& axis, int number, bool ofX, double share, const Stroke& stroke) {
     const double front = 1 - far_.z;
     const std::vector<Point3> places =
@@ -104,7 +103,7 @@ WallStyles ReadWalls(xlsx::ChartPart& part) {
   const auto read = [&](const char* name, const ShapeStyle& automatic) {
     return ReadStyle(part, xlsx::xml::Child(chart, name, "spPr"), automatic);
   };
-  // In a chart of a dark style, the walls have the filling of a flat plot area.
+  // In a chart with a dark style, the walls have the fill of a flat plot area.
   constexpr long long kFirstDark = 33;
   Fill fill;
   if (xlsx::ChartStyleOf(part) >= kFirstDark) fill = AutomaticStyles(part).PlotArea(true).fill;

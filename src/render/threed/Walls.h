@@ -17,9 +17,9 @@ struct WallStyles {
 /// Reads the formats of the walls and the floor.
 WallStyles ReadWalls(xlsx::ChartPart& part);
 
-/// The sides of the box that are behind its contents: 0 or 1 on the axes x and z.
+/// The sides of the box that are behind its contents.
 struct FarSides {
-  /// The positions of the side wall and of the back wall: 0 or 1.
+  /// The positions of the side wall on the axis X and of the back wall on the axis Z: 0 or 1.
   double x = 0, z = 1;
 };
 /// Returns the sides of the box that are behind its contents.

@@ -8,7 +8,7 @@
 /// 1004.
 namespace plotsmith::xlsx {
 
-/// An error with its own sentence.
+/// Returns error 1004 with the text `sentence`.
 inline runtime::RuntimeError Refusal(std::string sentence) {
   return {runtime::error::kApplication, std::move(sentence)};
 }
@@ -26,7 +26,7 @@ inline runtime::RuntimeError CantSet(const std::string& property, const std::str
 }
 ///@}
 
-/// The error for a method that has failed.
+/// The error for a method that has failed. `object` is the name of the object's class.
 inline runtime::RuntimeError MethodFailed(const std::string& method, const std::string& object) {
   return Refusal("Method '" + method + "' of object '" + object + "' failed");
 }

@@ -8,7 +8,8 @@ using runtime::Variant;
 
 namespace {
 
-/// A cut may leave half of a surrogate pair, which can't be converted to UTF-8.
+/// Replaces unpaired surrogates, which aren't valid in UTF-8. A text that was cut can end in the middle of a
+/// surrogate pair.
 std::string WithoutHalves(const std::string& text) {
   if (text.find('\xED') == std::string::npos) return text;
   std::string whole;
@@ -24,7 +25,7 @@ std::string WithoutHalves(const std::string& text) {
 std::string Journal::Literal(const Variant& value) {
   if (const auto* text = value.If<std::string>()) {
     std::string quoted = "\"" + runtime::Replace(WithoutHalves(*text), "\"", "\"\"") + "\"";
-    // A call stays on one line.
+    // Line breaks become constants, so that a call stays on one line.
     quoted = runtime::Replace(quoted, "\r\n", "\" & vbCrLf & \"");
     quoted = runtime::Replace(quoted, "\r", "\" & vbCr & \"");
     return runtime::Replace(quoted, "\n", "\" & vbLf & \"");

@@ -7,32 +7,33 @@
 /// limit is refused with a message, because it would exhaust memory or time.
 namespace plotsmith::xlsx::limits {
 
-/// The entries of the zip archive.
+/// The maximum number of entries in the zip archive.
 inline constexpr std::size_t kPackageEntries = 100'000;
-/// The inflated bytes of a part that is read piece by piece (a sheet).
+/// The maximum inflated size, in bytes, of a part that is read piece by piece (a sheet).
 inline constexpr std::uint64_t kStreamedPart = std::uint64_t{8} << 30;
-/// The inflated bytes of a part that is held in memory (all parts except sheets).
+/// The maximum inflated size, in bytes, of a part that is held in memory (all parts except sheets).
 inline constexpr std::uint64_t kHeldPart = std::uint64_t{512} << 20;
-/// The ratio of inflated to compressed size. The deflate format reaches about 1030; real sheets stay
-/// below 60.
+/// The maximum ratio of inflated to compressed size. The deflate format can reach about 1030; real sheets
+/// stay below 60.
 inline constexpr std::uint64_t kRatio = 300;
-/// The inflated bytes up to which a part may have any ratio.
+/// The inflated size, in bytes, up to which a part may have any ratio.
 inline constexpr std::uint64_t kAnyRatio = std::uint64_t{16} << 20;
 
-/// The depth of nested elements of a part.
+/// The maximum depth of nested elements in a part.
 inline constexpr int kXmlDepth = 512;
-/// The tags and attributes of a part that is parsed to a tree, in which a short tag takes many times its
-/// size. A chart with kCachePoints points stays below this limit.
+/// The maximum number of tags and attributes in a part that is parsed into a tree. In the tree, a short tag
+/// takes many times its size in the file. A chart with kCachePoints points stays below this limit.
 inline constexpr std::ptrdiff_t kXmlMarks = 24'000'000;
-/// The attributes of an element, including namespace declarations. Each access searches all of them.
+/// The maximum number of attributes of an element, including namespace declarations. Each access to an
+/// attribute searches all of them.
 inline constexpr std::size_t kXmlAttributes = 1000;
-/// The texts of the shared strings part.
+/// The maximum number of texts in the shared strings part.
 inline constexpr std::size_t kSharedStrings = 32'000'000;
-/// The bytes of a tag, or of a text between two tags, in a part that is read piece by piece.
+/// The maximum size, in bytes, of a tag or of a text between two tags in a part that is read piece by piece.
 inline constexpr std::size_t kXmlToken = std::size_t{64} << 20;
 
-/// Limits of Excel: rows and columns of a sheet, UTF-16 units of a cell's text, of a formula and of a sheet's
-/// name, and the largest id of a sheet.
+/// Limits of Excel: the rows and columns of a sheet; the UTF-16 units of a cell's text, of a formula and of a
+/// sheet's name; and the largest id of a sheet.
 ///@{
 inline constexpr std::int32_t kRows = 1'048'576;
 inline constexpr std::int32_t kColumns = 16'384;
@@ -42,15 +43,17 @@ inline constexpr std::size_t kSheetName = 31;
 inline constexpr long long kSheetId = 65'534;
 ///@}
 
-/// The cells of a sheet.
+/// The maximum number of cells on a sheet.
 inline constexpr std::uint64_t kCells = 400'000'000;
-/// The cells of a sheet that is written to. Each row takes memory up to its last cell.
+/// The maximum number of cells on a sheet that is written to. Each row takes memory up to its last cell.
 inline constexpr std::size_t kGridCells = 20'000'000;
-/// The UTF-16 units in the text of a shape, which is rewritten with each piece that is added to it.
+/// The maximum length of a shape's text in UTF-16 units. The whole text is rewritten with each piece that is
+/// added to it.
 inline constexpr std::size_t kShapeText = 131'072;
-/// The series of a chart. A plot group without series counts as one. Excel allows 255.
+/// The maximum number of series in a chart. A plot group without series counts as one series. Excel allows
+/// 255.
 inline constexpr std::size_t kSeries = 1024;
-/// The cells in the caches of all series of a chart, and in one reference.
+/// The maximum number of cells in the caches of all series of a chart, and in one reference.
 inline constexpr std::int64_t kCachePoints = 4'000'000;
 
 }  // namespace plotsmith::xlsx::limits

@@ -45,7 +45,8 @@ class BookContext : public BookDamage {
   const xlsx::Styles& Styles() const { return *styles_; }
   /// The theme of the workbook, or Office's if it has none.
   const xlsx::Theme& Theme() { return theme_.Get(); }
-  /// The texts of the shared strings part, which is read at the first use. Error 1004 if it can't be read.
+  /// The texts of the shared strings part, which is read at the first use. Raises error 1004 if it can't be
+  /// read.
   const TextPool& SharedStrings();
   /// The rows that were inserted and deleted.
   RowShifts& Shifts() { return shifts_; }

@@ -16,8 +16,8 @@ class BookDamage {
   /// changes that are based on it are incomplete.
   const std::optional<std::string>& Damage() const { return damage_; }
 
-  /// Calls a function of the port that reads the file. A PackageError or a lack of memory is stored as the
-  /// damage and raised as error 1004.
+  /// Calls `read`, which reads the file for a member of the port. A PackageError or a lack of memory is
+  /// stored as damage and raised as error 1004.
   template <class Read>
   auto Guarded(Read&& read) -> decltype(read()) {
     try {
@@ -29,8 +29,8 @@ class BookDamage {
     }
   }
 
-  /// Calls a function that reads the workbook only to show it. Damage raises the usual error, but the
-  /// workbook may still be saved, because no change is based on the data.
+  /// Calls `read`, which reads the workbook only to show it. Damage raises the usual error, but the workbook
+  /// may still be saved, because no change is based on the data.
   template <class Read>
   auto Viewed(Read&& read) -> decltype(read()) {
     const auto before = damage_;

@@ -41,7 +41,7 @@ class NameList {
   BookPart& book_;
   std::vector<NameEntry> names_;
   std::uint64_t revision_ = 0;
-  std::size_t followed_ = 0;  ///< the mark of the last row shifts that the names have followed
+  std::size_t followed_ = 0;  ///< the mark up to which the names have followed the row shifts
 };
 
 }  // namespace plotsmith::xlsx

@@ -21,7 +21,7 @@ class SaveFormat {
   const WorkbookKind* OtherKind(const std::string& path) const;
 
  private:
-  std::string extension_;  ///< of the file that was opened, in lower case
+  std::string extension_;  ///< the extension of the opened file, in lower case
 };
 
 }  // namespace plotsmith::xlsx

@@ -30,7 +30,8 @@ std::string Font(std::string_view name, std::string_view typeface) {
                            "\"/><a:ea typeface=\"\"/><a:cs typeface=\"\"/>");
 }
 
-/// The schema requires three of each: subtle, moderate and intense.
+/// Returns a list with three equal entries. The schema requires three of each format: subtle, moderate and
+/// intense.
 std::string Thrice(std::string_view name, const std::string& content) {
   return Element(name, content + content + content);
 }

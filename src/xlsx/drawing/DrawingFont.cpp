@@ -21,7 +21,7 @@ constexpr double kMostPoints = 409;
 
 }  // namespace
 
-/// Returns a property if all of the text has the same value, else Null.
+/// Returns the value of a property if the whole text has the same value, otherwise Null.
 template <class Get>
 Variant DrawingFont::Common(const Get& get) const {
   Variant common;

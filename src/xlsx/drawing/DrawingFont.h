@@ -16,7 +16,7 @@ class Journal;
 struct TextLook {
   std::string typeface;  ///< The name of the font.
   double points = 0;     ///< The size in points.
-  /// The styles of the letters.
+  /// Whether the text is bold, and whether it is italic.
   bool bold = false, italic = false;
   std::int32_t color = 0;  ///< Red + 256 * green + 65536 * blue.
   bool underline = false;  ///< Whether the text has a line of any kind below it.

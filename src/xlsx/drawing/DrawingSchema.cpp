@@ -12,8 +12,8 @@ namespace plotsmith::xlsx::schema {
 namespace {
 
 /// The order of a type's children. Names at the same position are joined by "|". Related types whose orders
-/// don't contradict each other share a table: there is one for the series of all groups, one for all groups
-/// and one for all axes.
+/// don't contradict each other share a table. There is one table for the series of all groups, one for all
+/// groups, and one for all axes.
 using Order = std::span<const std::string_view>;
 
 constexpr std::string_view kGroups =
@@ -174,8 +174,9 @@ std::size_t Rank(const Type* type, std::string_view name) {
   return std::string_view::npos;
 }
 
-/// The child before which a child of the name must be inserted; null for the end. The search begins at the
-/// end and ends at a child of the same name, so that it doesn't pass all series or points of a chart.
+/// Returns the child before which a child with the name must be inserted; null for the end. The search goes
+/// backwards and stops at a child with the same name. Otherwise it would pass all series or points of a
+/// chart.
 pugi::xml_node Follower(pugi::xml_node parent, std::string_view local) {
   const Type* type = TypeOf(parent);
   const std::size_t rank = Rank(type, local);

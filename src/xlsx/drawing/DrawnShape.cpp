@@ -25,7 +25,8 @@ namespace {
 constexpr std::int32_t kLine = 9;  // msoLine
 // The default insets of a text box (ECMA-376-1, 21.1.2.1.1), in points. They are 0.1 and 0.05 inches.
 constexpr double kUsualMarginAcross = 7.2, kUsualMarginDown = 3.6;
-// The left and right inset that Excel writes for a box with automatic margins (AutoMargins), in points.
+// The left and right insets, in points, that Excel writes for a text box with automatic margins
+// (AutoMargins).
 constexpr double kAutomaticMargin = 2.16;
 
 std::int32_t TypeOf(pugi::xml_node object) {
@@ -101,7 +102,7 @@ void DrawnShape::SetText(std::u16string_view text) {
   TextBody body(Object());
   if (text.size() > limits::kShapeText) throw Refusal("The text is longer than a shape can contain.");
   body.SetText(runtime::ToUtf8(text));
-  text_.reset();  // The body may store a different text, for example other line ends.
+  text_.reset();  // The stored text may differ, for example in its line ends.
   FitToText();
   MarkChanged();
 }
@@ -200,9 +201,8 @@ void DrawnShape::FitToText() {
 void DrawnShape::StopFittingToText() {
   pugi::xml_node body = xml::Child(object_, "txBody", "bodyPr");
   if (!xml::Child(body, "spAutoFit")) return;
-  // A program that fits boxes to their text when it opens the file would change the size again. LibreOffice
-  // does this around the middle of the box, so that texts with the same left edge would move to different
-  // positions.
+  // A program that fits text boxes when it opens the file would change the size again. LibreOffice resizes a
+  // text box about its centre. Texts with the same left edge would then move to different positions.
   schema::Remove(body, "spAutoFit");
   schema::Ensure(body, "noAutofit");
   if (xml::Attribute(body, "wrap", "square") != "none") return;

@@ -53,21 +53,21 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
   virtual const Journal& Log() const = 0;
   /// The theme of the shape's colours and fonts.
   virtual const xlsx::Theme& Theme() const = 0;
-  /// The name without a copy; error 1004 once the shape was deleted. The text is valid until the name
-  /// changes.
+  /// The name, without copying it; raises error 1004 once the shape was deleted. The reference is valid until
+  /// the name changes.
   const std::string& NameText() { return Remembered(name_, "name"); }
-  /// The object's element; error 1004 once the shape was deleted.
+  /// The object's element; raises error 1004 once the shape was deleted.
   pugi::xml_node Object() const;
-  /// The shape properties (spPr, or grpSpPr of a group); error 1004 for an object that has neither.
+  /// The shape properties (spPr, or grpSpPr of a group); raises error 1004 for an object that has neither.
   pugi::xml_node Properties() const;
-  /// The anchor's element; error 1004 once the shape was deleted.
+  /// The anchor's element; raises error 1004 once the shape was deleted.
   pugi::xml_node Anchor() const;
   /// The text of the shape in UTF-16. It is converted once, so that reading it in pieces is fast.
   const std::u16string& Text();
-  /// Sets the text, in UTF-16. Error 1004 for an object that can't have a text.
+  /// Sets the text, in UTF-16. Raises error 1004 for an object that can't have a text.
   void SetText(std::u16string_view text);
-  /// Moves the shape to the frame, as far as its drawing allows. Error 1004 for a frame that CheckPlace
-  /// refuses.
+  /// Moves the shape to the frame, as far as its drawing allows. Raises error 1004 for a frame that
+  /// CheckPlace refuses.
   void Place(const Frame& frame);
   /// Fits a shape that adapts its size to the text.
   void FitToText();
@@ -92,7 +92,7 @@ class DrawnShape : public excel::Shape, public std::enable_shared_from_this<Draw
 
   pugi::xml_node anchor_, object_;
   std::optional<std::u16string> text_;  ///< kept until it changes
-  // A search for a chart asks all shapes for these three.
+  // A search for a chart reads these three of every shape.
   std::int32_t type_;
   std::optional<std::string> name_, alternativeText_;  ///< Kept until they change.
 };

@@ -58,7 +58,7 @@ class ShapeRangeObject final : public excel::ShapeRange {
     if (shapes_.size() != 1) throw OutOfRange();
     return *shapes_[0];
   }
-  /// Returns the value that all shapes have; error 1004 if they differ.
+  /// Returns the value that all shapes have; raises error 1004 if they differ.
   template <class Get>
   double Common(const Get& get) const {
     const double first = (shapes_[0].get()->*get)();

@@ -38,7 +38,8 @@ class DrawnShapes : public excel::Shapes, public std::enable_shared_from_this<Dr
   virtual std::shared_ptr<DrawnShape> Find(std::string_view name) = 0;
   /// Adds a text box to the drawing.
   virtual std::shared_ptr<DrawnShape> NewTextbox(const Frame& frame) = 0;
-  /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
+  /// Adds an AutoShape to the drawing. Its name is `name` and a number; `preset` is its geometry in the file
+  /// (ST_ShapeType).
   virtual std::shared_ptr<DrawnShape> NewAutoShape(std::string_view name, std::string_view preset,
                                                    const Frame& frame) = 0;
 };

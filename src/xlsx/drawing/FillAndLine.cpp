@@ -30,8 +30,7 @@ pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
   return schema::Ensure(properties, "ln");
 }
 
-/// One of the two colours of a fill or an outline. Only a pattern shows the second one, and the file
-/// stores it only there.
+/// One of the two colours of a fill or an outline. Only a pattern has the second colour.
 class ColorFormatObject final : public excel::ColorFormat {
  public:
   ColorFormatObject(std::shared_ptr<DrawnShape> shape, Part part, bool back)

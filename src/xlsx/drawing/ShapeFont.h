@@ -10,8 +10,8 @@ namespace plotsmith::xlsx {
 
 class DrawnShape;
 
-/// The font of a piece of a shape's text for the port. `start` and `length` count UTF-16 units from 0. After
-/// the end of the text, there is no font to set.
+/// The font of a piece of a shape's text for the port. `start` and `length` count UTF-16 units from 0. Beyond
+/// the end of the text, setting the font has no effect.
 excel::Ref<excel::Font> MakeShapeFont(std::shared_ptr<DrawnShape> shape, std::size_t start,
                                       std::size_t length, std::string journalPath);
 

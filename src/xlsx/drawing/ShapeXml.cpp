@@ -14,7 +14,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// Returns the element itself or, if a file has alternatives for newer and older programs, the first
+/// Returns the element itself. If it has alternatives for newer and older programs, returns the first
 /// alternative that is supported, as Excel does.
 pugi::xml_node Chosen(pugi::xml_node node) {
   const auto choice = xml::Child(node, "Choice");
@@ -146,7 +146,7 @@ std::string TextboxTemplate(unsigned id, std::string_view name, std::string_view
 }
 
 std::string AutoShapeTemplate(unsigned id, std::string_view name, std::string_view preset) {
-  // Excel gives new shapes a style of the theme.
+  // Excel gives new shapes a style that refers to the theme.
   return R"(<@sp macro="" textlink="">)" + Start("SpPr", id, name, "<@cNvSpPr/>") + "<@spPr>" + Form(preset) +
          R"(</@spPr><@style><~lnRef idx="2"><~schemeClr val="accent1"><~shade val="50000"/></~schemeClr></~lnRef>)"
          R"(<~fillRef idx="1"><~schemeClr val="accent1"/></~fillRef><~effectRef idx="0"><~schemeClr val="accent1"/>)"

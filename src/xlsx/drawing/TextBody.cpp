@@ -27,8 +27,8 @@ void Cut(pugi::xml_node run, std::size_t units) {
   xml::SetText(xml::Child(rest, "t"), runtime::ToUtf8(text.substr(units)));
 }
 
-/// Calls `visit` with each run, its beginning and its end; `visit` may split the run. Returns the length of
-/// the text.
+/// Calls `visit` with each run and the positions of its beginning and end. `visit` may split the run. Returns
+/// the length of the text.
 template <class Visit>
 std::size_t ForEachRun(const std::vector<pugi::xml_node>& paragraphs, const Visit& visit) {
   std::size_t at = 0;
@@ -168,7 +168,7 @@ TextBody::Extent TextBody::Measure(const Theme& theme, std::optional<double> wid
       }
       const std::string text = xml::Text(xml::Child(run, "t"));
       for (std::string_view rest = text; !rest.empty();) {
-        // The blank after a word may cross the edge.
+        // The space after a word may extend beyond the edge.
         const std::size_t blank = rest.find(' ');
         const std::string_view word = rest.substr(0, blank);
         if (width && x > 0 && x + TextWidth(word, face) > *width) endLine();

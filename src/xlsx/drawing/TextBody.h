@@ -29,10 +29,10 @@ class TextBody {
 
   /// The text, whose paragraphs are joined by line feeds.
   std::string Text() const { return BodyText(Body()); }
-  /// Sets the text. Error 1004 for an object that can't have a text.
+  /// Sets the text. Raises error 1004 for an object that can't have a text.
   void SetText(std::string_view text) { SetBodyText(EnsureBody(), text); }
-  /// The properties of the body, which are made if they are missing. Error 1004 for an object that can't have
-  /// a text.
+  /// The properties of the body, which are made if they are missing. Raises error 1004 for an object that
+  /// can't have a text.
   pugi::xml_node BodyProperties();
   /// The paragraph elements.
   std::vector<pugi::xml_node> Paragraphs() const;

@@ -63,7 +63,7 @@ class CharactersObject final : public excel::Characters {
   std::optional<std::size_t> length_;
 };
 
-/// The members of both classes of frames.
+/// The members that TextFrame and TextFrame2 have in common.
 class FrameMembers {
  public:
   FrameMembers(std::shared_ptr<DrawnShape> shape, const char* name) : shape_(std::move(shape)), name_(name) {}

@@ -9,8 +9,9 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// Advance widths in thousandths of an em: U+0020 to U+007E, then U+00A0 to U+00FF. scripts/font-widths.py
-/// has measured them on Liberation Sans and Carlito, whose widths are those of Arial and Calibri.
+/// Advance widths in thousandths of an em: U+0020 to U+007E, then U+00A0 to U+00FF. They come from
+/// scripts/font-widths.py, which measures Liberation Sans and Carlito. These fonts have the widths of Arial
+/// and Calibri.
 using Widths = std::array<std::uint16_t, 95 + 96>;
 
 // clang-format off
@@ -76,7 +77,7 @@ const Metrics& MetricsOf(std::string_view font) {
   return kArial;  // Most sans serif fonts have similar widths.
 }
 
-/// Characters as wide as they are high: CJK, Hangul, kana and full-width forms.
+/// Returns true for characters that are as wide as they are high: CJK, Hangul, kana and full-width forms.
 bool IsWide(char16_t unit) {
   return (unit >= 0x1100 && unit <= 0x115F) || (unit >= 0x2E80 && unit <= 0xA4CF) ||
          (unit >= 0xAC00 && unit <= 0xD7A3) || (unit >= 0xF900 && unit <= 0xFAFF) ||

@@ -9,7 +9,7 @@ namespace plotsmith::xlsx {
 struct TextFace {
   std::string font;   ///< The name of the font.
   double size = 10;   ///< The size in points.
-  bool bold = false;  ///< Whether the letters are bold.
+  bool bold = false;  ///< Whether the text is bold.
 };
 
 /// Returns the width of a text in one line, in points. It is exact for Western European characters in fonts

@@ -29,8 +29,8 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 24> kPresets
      {"purple", "800080"},  {"teal", "008080"},    {"lime", "00FF00"},     {"orange", "FFA500"},
      {"brown", "A52A2A"},   {"pink", "FFC0CB"},    {"darkBlue", "00008B"}, {"darkRed", "8B0000"}}};
 
-/// Returns a percentage of DrawingML as a fraction. It is a number of thousandths, or a text such as "65%" in
-/// Strict files.
+/// Returns a percentage of DrawingML as a fraction. The file has it in thousandths of a percent or, if it is
+/// Strict, as a text such as "65%".
 double Fraction(pugi::xml_node node, const char* name, double fallback) {
   const std::string text = xml::Attribute(node, name);
   if (text.ends_with('%')) return xml::ParseDouble(text.substr(0, text.size() - 1)).value_or(0) / 100;
@@ -165,7 +165,7 @@ void Theme::Read(std::string_view part) {
   try {
     xml::Parse(document, part);
   } catch (const PackageError&) {
-    return;  // An unreadable theme doesn't make a chart unreadable.
+    return;  // A chart can be read even if its theme can't.
   }
   const pugi::xml_node root = xml::Root(document);
   const auto elements = xml::Child(root, "themeElements");

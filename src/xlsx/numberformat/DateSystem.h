@@ -4,8 +4,8 @@
 
 namespace plotsmith::xlsx {
 
-/// The date system of a workbook: serial number 1 is 1 January 1900 (with the non-existent 29 February 1900),
-/// or 0 is 1 January 1904.
+/// The date system of a workbook. In the 1900 system, serial number 1 is 1 January 1900, and there is a 29
+/// February 1900. In the 1904 system, serial number 0 is 1 January 1904.
 enum class DateSystem { k1900, k1904 };
 
 // Serial numbers of the 1900 date system:

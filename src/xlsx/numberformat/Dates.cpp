@@ -29,7 +29,7 @@ constexpr std::string_view kWeekdays[] = {"Sunday",   "Monday", "Tuesday", "Wedn
 struct Era {
   std::uint16_t language;
   sys_days begin;
-  std::string_view names[3];  // by number of letters
+  std::string_view names[3];  // by the number of letters
 };
 
 /// The latest era comes first.
@@ -61,8 +61,8 @@ Date GregorianDate(std::int64_t serial) {
           static_cast<int>(static_cast<unsigned>(date.day())), point};
 }
 
-/// Converts to the arithmetical Hijri calendar: months have 30 and 29 days in turn, and eleven years out of
-/// thirty have an additional day.
+/// Converts a day to the arithmetical Hijri calendar. Its months have 30 and 29 days alternately, and eleven
+/// years out of thirty have an additional day.
 Date HijriDate(std::int64_t serial) {
   constexpr sys_days kEpoch{std::chrono::year{622} / 7 / 18};
   constexpr std::int64_t kCycleYears = 30;
@@ -168,7 +168,7 @@ void AppendTime(std::string& out, const Section& section, const Token& token, co
   }
 }
 
-/// Appends the mark of the half of the day, from marks such as "AM/PM".
+/// Appends the mark for the half of the day. `marks` contains both marks, such as "AM/PM".
 void AppendDayHalf(std::string& out, std::string_view marks, const Moment& moment) {
   const std::size_t slash = marks.find('/');
   out += moment.second < kDaySeconds / 2 ? marks.substr(0, slash) : marks.substr(slash + 1);
@@ -226,7 +226,7 @@ void FindMinutes(Section& section) {
   }
 }
 
-/// Returns the largest number of equal letters that has its own meaning.
+/// Returns the largest number of equal letters that has a meaning of its own.
 std::uint32_t MostSize(Kind kind) {
   switch (kind) {
     case Kind::kHour:
@@ -255,8 +255,8 @@ std::uint32_t ZerosBehind(const std::vector<Token>& tokens, std::size_t index) {
   return zeros;
 }
 
-/// A decimal point followed by zeros shows fractions of a second, after any token. Returns false if there are
-/// too many zeros.
+/// Decides the meaning of a decimal point. With zeros after it, it shows fractions of a second, whatever the
+/// token before it. Returns false if there are too many zeros.
 bool SettlePoint(Section& section, Token& token, std::uint32_t zeros) {
   constexpr std::uint32_t kMostSubseconds = 3;
   if (zeros > kMostSubseconds) return false;
@@ -325,7 +325,8 @@ bool ResolveDate(Section& section) {
         section.twelveHours = true;
         break;
       case Kind::kHour:
-        // An elapsed time in minutes or seconds shows no hours, and one in seconds shows no minutes.
+        // A format with elapsed minutes or seconds can't show hours, and one with elapsed seconds can't show
+        // minutes.
         if (section.elapsed == Kind::kMinute || section.elapsed == Kind::kSecond) return false;
         break;
       case Kind::kMinute:

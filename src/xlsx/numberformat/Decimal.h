@@ -12,7 +12,7 @@ class Decimal {
   /// Converts a number that isn't negative.
   explicit Decimal(double magnitude);
 
-  /// Returns true if no digit is left.
+  /// Returns true if the number is zero.
   bool IsZero() const { return count_ == 0; }
   /// Multiplies by a power of ten.
   void Scale(int power) { point_ += power; }
@@ -37,7 +37,7 @@ class Decimal {
  private:
   std::array<char, 15> digits_;
   int count_ = 0;
-  int point_ = 0;  // the number is 0.d1d2d3... times ten to the power of this
+  int point_ = 0;  // the number is 0.d1d2d3... times ten to this power
 };
 
 /// Writes the integer part of a number into its placeholders, from left to right. Digits without a
@@ -57,8 +57,8 @@ class IntegerWriter {
 
   std::string& out_;
   const Decimal& number_;
-  int digits_;  // still to be written
-  int power_;   // of the next placeholder
+  int digits_;  // the number of digits still to be written
+  int power_;   // the power of ten of the next placeholder
   bool grouping_;
 };
 

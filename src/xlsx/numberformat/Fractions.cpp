@@ -11,7 +11,7 @@ namespace {
 using Kind = Token::Kind;
 
 /// Assigns the tokens after the slash to the denominator, which is either placeholders or a number. Returns
-/// the index after it, 0 if it is neither.
+/// the index of the token after it, or 0 if it is neither.
 std::size_t SettleDenominator(Section& section, std::size_t begin) {
   auto& tokens = section.tokens;
   while (tokens[begin].kind == Kind::kLiteral) ++begin;

@@ -12,8 +12,8 @@ namespace {
 /// Text of a cell that can't show its number.
 constexpr std::string_view kOverflow = "########";
 
-/// Maximum number of characters that Excel displays in a cell. A code that repeats the cell's text many times
-/// stops there; a text that is shown once is complete.
+/// Maximum number of characters that Excel displays in a cell. A code that repeats the text of the cell stops
+/// there. A text that is shown once is complete, even if it is longer.
 constexpr std::size_t kMostRepeated = 1024;
 
 /// The formats that a file refers to only by number.

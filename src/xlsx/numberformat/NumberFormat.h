@@ -19,7 +19,7 @@ enum class DateFields {
 
 /// A number format code (`formatCode` of SpreadsheetML, en-US), which is parsed once and used for many cells.
 ///
-/// The displayed text is that of a sufficiently wide cell: `_x` gives a blank, `?` pads with blanks, and `*x`
+/// The displayed text is that of a sufficiently wide cell: `_x` gives a space, `?` pads with spaces, and `*x`
 /// fills nothing. Colours are ignored. Names of months and days are English in every locale.
 class NumberFormat {
  public:
@@ -27,8 +27,8 @@ class NumberFormat {
   static std::shared_ptr<const NumberFormat> Parse(std::string_view code);
   ~NumberFormat();
 
-  /// Returns true if the format shows a day, a month or a year, so that a cell's value counts as a date. With
-  /// only a time or a duration it is a number, as in Excel's Range.Value.
+  /// Returns true if the format shows a day, a month or a year, so that a cell's value counts as a date. A
+  /// value with only a time or a duration counts as a number, as in Excel's Range.Value.
   bool IsDate() const;
   /// The date fields that the number's section shows.
   DateFields FieldsOf(double value) const;
@@ -36,8 +36,8 @@ class NumberFormat {
   bool IsGeneral() const;
 
   /// Appends the displayed text to `out`. The text is "########" where Excel fills the cell with "#": for a
-  /// date outside of the date system (but the 1904 system shows a negative date with a minus sign), and for a
-  /// number that meets neither of two conditions. A value that isn't finite, which no cell contains, gives
+  /// date outside of the date system, and for a number that meets neither of two conditions. The 1904 system
+  /// shows a negative date with a minus sign. A value that isn't finite, which no cell contains, gives
   /// "#NUM!".
   void AppendNumber(std::string& out, double value, DateSystem dates) const;
   /// Appends a text as the format displays it.
@@ -56,8 +56,8 @@ class NumberFormat {
 /// formats of other languages have the id.
 std::string_view BuiltinNumberFormat(int id);
 
-/// Appends a number in General format: up to 11 digits, and scientific notation outside of 1E-9 to 1E11, like
-/// Excel.
+/// Appends a number in General format: up to 11 digits, and scientific notation outside of 1E-9 to 1E11, as
+/// in Excel.
 void AppendGeneral(std::string& out, double value);
 
 }  // namespace plotsmith::xlsx

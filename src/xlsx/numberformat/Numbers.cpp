@@ -30,13 +30,13 @@ Scientific MakeScientific(const Decimal& number, int period, int decimals) {
     Scientific result{number, exponent};
     result.mantissa.Scale(-exponent);
     result.mantissa.Round(decimals);
-    if (result.mantissa.IntegerDigits() <= period) return result;  // Rounding may have changed 9.99 to 10.0.
+    if (result.mantissa.IntegerDigits() <= period) return result;  // Rounding can change 9.99 to 10.0.
   }
 }
 
-/// Decides the meaning of a comma after a digit placeholder or the decimal point. It is a thousands separator
-/// if another digit follows directly; otherwise, at the end of the integer part or of the number, each comma
-/// divides by a thousand. `digitFollows` is true if any digit follows.
+/// Decides the meaning of a comma after a digit placeholder or the decimal point. If another digit follows
+/// directly, the comma is a thousands separator. Otherwise, at the end of the integer part or of the number,
+/// each comma divides by a thousand. `digitFollows` is true if any digit follows.
 void SettleComma(Section& section, std::size_t index, bool inIntegers, bool digitFollows) {
   const auto& tokens = section.tokens;
   const Kind next = index + 1 < tokens.size() ? tokens[index + 1].kind : Kind::kLiteral;
@@ -46,8 +46,8 @@ void SettleComma(Section& section, std::size_t index, bool inIntegers, bool digi
     section.scale -= 3 * tokens[index].symbol;
 }
 
-/// Returns the index of the last digit placeholder before the exponent, 0 if there is none; absent if the
-/// section has several exponents.
+/// Returns the index of the last digit placeholder before the exponent, or 0 if there is none. Returns
+/// nothing if the section has several exponents.
 std::optional<std::size_t> LastDigitOfMantissa(const std::vector<Token>& tokens) {
   bool inExponent = false;
   std::size_t lastDigit = 0;
@@ -67,8 +67,8 @@ void SettleDigit(Section& section, Token& token, Kind part) {
   ++count;
 }
 
-/// Settles a point: the first one begins the decimals, and the others are literals. Returns false for a point
-/// in the exponent.
+/// Decides the meaning of a decimal point. The first one begins the decimals, and the others are literals.
+/// Returns false for a point in the exponent.
 bool SettlePoint(Token& token, Kind& part) {
   if (part == Kind::kExponentDigit) return false;
   if (part == Kind::kInteger) {
@@ -79,7 +79,7 @@ bool SettlePoint(Token& token, Kind& part) {
   return true;
 }
 
-/// Settles the tokens of a plain or a scientific number.
+/// Decides the meaning of the tokens of a plain or scientific number.
 bool ResolvePlainNumber(Section& section) {
   auto& tokens = section.tokens;
   const auto lastDigit = LastDigitOfMantissa(tokens);
@@ -238,8 +238,8 @@ class NumberWriter {
   Decimal exponentDigits_;
   int digits_;  ///< before the decimal point
   IntegerWriter integers_, exponents_;
-  char exponentSign_ = 0;  ///< if it isn't written yet
-  int decimalPower_ = -1;  ///< of the next decimal
+  char exponentSign_ = 0;  ///< 0 if there is none, or once it is written
+  int decimalPower_ = -1;  ///< the power of ten of the next decimal
 };
 
 }  // namespace

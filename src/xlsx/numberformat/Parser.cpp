@@ -74,7 +74,7 @@ std::optional<Condition> ParseCondition(std::string_view text) {
   return condition;
 }
 
-/// Returns the meaning of a single sign.
+/// Returns the meaning of a single character.
 Kind KindOf(char c) {
   switch (Lower(c)) {
     case '0':
@@ -112,7 +112,7 @@ Kind KindOf(char c) {
   }
 }
 
-/// Evaluates the calendar part of a locale.
+/// Applies the calendar part of a locale to a section.
 void UseCalendar(Section& section, std::uint32_t calendar) {
   constexpr std::uint32_t kJapanese = 3;
   constexpr std::uint32_t kTaiwanese = 4;
@@ -223,7 +223,7 @@ bool Reader::ReadToken() {
 }
 
 /// Reads a literal character, the width of a character, or a fill character. The cell's width isn't known, so
-/// nothing is filled, and each width is a blank.
+/// nothing is filled, and each width becomes a space.
 bool Reader::ReadEscape() {
   const std::string_view rest = Rest();
   if (rest.size() < 2) return false;
@@ -318,7 +318,7 @@ bool Reader::ReadLetter() {
   }
   const std::string_view run = Run();
   if (kind != Kind::kBuddhistYear) return take(kind, run);
-  // Inside a word, the letter is text that was left unquoted, and not a Buddhist year.
+  // Inside a word, the letter isn't a Buddhist year but unquoted text, which Excel refuses.
   if (behindLiteral) return false;
   if (StartsWith(rest, "b1") || StartsWith(rest, "b2")) {
     section_->calendar = rest[1] == '2' ? Calendar::kHijri : Calendar::kGregorian;
@@ -361,7 +361,8 @@ bool Reader::SettleSection() {
   return true;
 }
 
-/// Completes missing conditions: positive, negative and other numbers, or fewer classes.
+/// Completes missing conditions. Three sections are for positive, negative and other numbers; two are for
+/// numbers that aren't negative, and for others.
 void CompleteConditions(std::vector<Section>& numbers) {
   using Operator = Condition::Operator;
   if (numbers.size() < 2) return;
@@ -371,8 +372,8 @@ void CompleteConditions(std::vector<Section>& numbers) {
   if (hasThird && !numbers[1].condition) numbers[1].condition = Condition{Operator::kLess, 0};
 }
 
-/// Finds the sections that only negative numbers reach. The section of a number can change only at a limit or
-/// at zero, so it is enough to try these and their neighbours.
+/// Finds the sections that apply only to negative numbers. The section of a number can change only at a limit
+/// or at zero, so it is enough to try these numbers and their neighbours.
 void MarkNegativeSections(NumberFormat::Program& program) {
   std::vector<double> samples;
   const auto tryAround = [&](double limit) {

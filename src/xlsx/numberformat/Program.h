@@ -11,16 +11,16 @@
 
 namespace plotsmith::xlsx {
 
-/// A step of writing a value. The parser determines the meaning of each digit placeholder, so that a value is
-/// written in one pass over the tokens. Each token keeps its text, so that a sign without a meaning can
-/// become a literal.
+/// A token of a section. The parser determines the meaning of each digit placeholder, and so a value is
+/// written in one pass over the tokens. Each token keeps its text, because a symbol without a meaning becomes
+/// a literal.
 struct Token {
   /// The meaning of a token.
   enum class Kind : std::uint8_t {
     kLiteral,
     kText,     // @
     kGeneral,  // the word General
-    // Numbers. Placeholders keep their sign (0, # or ?) in `symbol`.
+    // Numbers. Placeholders keep their character (0, # or ?) in `symbol`.
     kInteger,
     kPoint,
     kDecimal,
@@ -89,7 +89,7 @@ struct Section {
 
   /// @name Numbers
   ///@{
-  /// The power of ten of percent signs and trailing commas.
+  /// The power of ten by which percent signs and trailing commas multiply the number.
   int scale = 0;
   /// The numbers of digit placeholders in the integer part, after the decimal point and in the exponent.
   int integers = 0;
@@ -106,9 +106,11 @@ struct Section {
   /// The numbers of digit placeholders in the numerator and in the denominator.
   int numerators = 0;
   int denominators = 0;
-  /// The denominator that the format gives. 0 is the best denominator with that number of digits.
+  /// The denominator that the format gives. If it is 0, the best denominator with at most `denominators`
+  /// digits is used.
   std::int64_t fixedDenominator = 0;
-  /// The first token that is blank for a whole number, and the token after the last one.
+  /// The index of the first token that is left blank for a whole number, and of the token after the last such
+  /// token.
   std::size_t fractionBegin = 0;
   std::size_t fractionEnd = 0;
   ///@}

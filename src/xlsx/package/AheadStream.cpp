@@ -46,7 +46,7 @@ std::size_t AheadStream::Read(char* buffer, std::size_t size) {
   std::unique_lock lock(mutex_);
   filledOne_.wait(lock, [&] { return filled_ > taken_; });
   const Piece& piece = pieces_[taken_ % pieces_.size()];
-  if (piece.size == 0) {  // The last piece stays in the queue, so that every further read finds the end.
+  if (piece.size == 0) {  // The last piece stays in the queue. Every further read finds the end there.
     if (failure_) std::rethrow_exception(failure_);
     return 0;
   }
@@ -58,7 +58,7 @@ std::size_t AheadStream::Read(char* buffer, std::size_t size) {
   position_ = 0;
   lock.lock();
   ++taken_;
-  // It takes longer to wake the thread for each piece than for several.
+  // Waking the thread for each piece would take longer than for several pieces.
   const bool isHalfEmpty = filled_ - taken_ <= pieces_.size() / 2;
   lock.unlock();
   if (isHalfEmpty) emptiedSome_.notify_one();

@@ -44,7 +44,7 @@ class AheadStream final : public Archive::Stream {
 
   std::mutex mutex_;
   std::condition_variable filledOne_, emptiedSome_;
-  std::size_t filled_ = 0, taken_ = 0;  ///< Numbers of pieces since the start.
+  std::size_t filled_ = 0, taken_ = 0;  ///< The numbers of pieces that were filled and taken since the start.
   bool stopping_ = false;
   std::exception_ptr failure_;  ///< Belongs to the last filled piece.
 };

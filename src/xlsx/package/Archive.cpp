@@ -125,8 +125,8 @@ constexpr zip_uint32_t kDeflateLevel = 4;
 struct ArchiveWriter::Handle {
   std::unique_ptr<zip_t, ZipCloser> zip;
 
-  /// `method` is given for data that is to be compressed or stored. A copied entry keeps its method, which
-  /// the library needn't support.
+  /// Adds an entry and returns its index. `method` is given for data that is to be compressed or stored. A
+  /// copied entry keeps its method, even if the library doesn't support it.
   zip_uint64_t Add(const char* name, zip_source_t* source, std::optional<std::uint16_t> method) {
     const auto index = source == nullptr ? -1 : zip_file_add(zip.get(), name, source, ZIP_FL_ENC_GUESS);
     if (index < 0) {
@@ -173,7 +173,7 @@ void ArchiveWriter::Add(const std::string& name, std::string_view bytes, bool co
   const auto index =
       handle_->Add(name.c_str(), zip_source_buffer(handle_->zip.get(), bytes.data(), bytes.size(), 0),
                    compress ? ZIP_CM_DEFLATE : ZIP_CM_STORE);
-  // There is no time stamp, as in files of Office, so that the same content gives the same file.
+  // As in files of Office, there is no time stamp. Therefore the same content gives the same file.
   zip_file_set_dostime(handle_->zip.get(), index, 0, kFirstDosDay, 0);
 }
 

@@ -5,8 +5,8 @@
 namespace plotsmith::xlsx {
 
 /// A file that is written beside its target and replaces the target in one step. It is flushed to the disk
-/// before that step. Until then it has no name, if the file system allows that, so that a killed process
-/// leaves no file. Without Commit, the target stays unchanged. All failures are PackageErrors.
+/// before that step. Until then, the file has no name if the file system allows that. Therefore a killed
+/// process leaves no file. Without Commit, the target stays unchanged. All failures are PackageErrors.
 class AtomicFile {
  public:
   /// Prepares a new file that replaces `path` on Commit. Throws a PackageError if `path` can't be replaced.

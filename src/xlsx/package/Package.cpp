@@ -112,7 +112,7 @@ class ScratchFile {
 };
 constexpr std::size_t kCopiedBlock = 256 * 1024;
 
-/// Opens the file of a closed archive again. Returns false, and leaves the archive closed, if that fails.
+/// Reopens the file of a closed archive. If that fails, returns false and leaves the archive closed.
 bool Reopen(std::unique_ptr<Archive>& archive) {
   try {
     archive = std::make_unique<Archive>(archive->Path());
@@ -271,7 +271,7 @@ std::string Package::Read(std::string_view name) const {
   const auto stream = Stream(name);
   std::size_t total = 0;
   while (const std::size_t count = stream->Read(bytes.data() + total, bytes.size() - total)) total += count;
-  char beyond;  // One more read checks the size and the checksum.
+  char beyond;  // Reading past the end checks the size and the checksum.
   stream->Read(&beyond, 1);
   return bytes;
 }
@@ -288,7 +288,7 @@ void Package::Add(std::string_view part, std::string_view contentType, std::stri
 
 void Package::SetContentType(std::string_view part, std::string_view contentType) {
   if (ContentType(part) == contentType) return;
-  pugi::xml_node& type = overrides_[Folded(part)];  // There may be one of a deleted part.
+  pugi::xml_node& type = overrides_[Folded(part)];  // An element of a deleted part may still exist.
   if (!type) type = xml::AppendChild(xml::Root(*contentTypes_), "Override");
   xml::SetAttribute(type, "PartName", PercentEncoded(part));
   xml::SetAttribute(type, "ContentType", contentType);
@@ -304,7 +304,7 @@ void Package::Remove(const std::string& part) {
     }
     contentTypesChanged_ = true;
   }
-  // A later part of the same name has its own relationships.
+  // A part that is later added with the same name gets its own relationships.
   const std::string links = RelationshipsPart(part);
   if (Has(links)) Remove(links);
   relationships_.erase(key);
@@ -443,8 +443,9 @@ void Package::Save(const std::string& path) {
   Commit(file, path);
 }
 
-/// Windows can't replace an open file. A package that is saved over its own file therefore closes the file
-/// and continues with the new one. The new file has the parts in their present order.
+/// Replaces the target of `file`. Windows can't replace an open file. If the package is saved over its own
+/// file, it therefore closes that file and continues with the new one, which has the parts in their present
+/// order.
 void Package::Commit(AtomicFile& file, const std::string& path) {
   std::error_code ignored;
   if (!archive_ ||
@@ -459,7 +460,7 @@ void Package::Commit(AtomicFile& file, const std::string& path) {
     Reopen(archive_);
     throw;
   }
-  if (!Reopen(archive_)) return;  // The workbook is saved. Only its unread parts can't be read any more.
+  if (!Reopen(archive_)) return;  // The workbook is saved, but its unread parts can't be read any more.
   for (std::size_t i = 0; i < parts_.size(); ++i) parts_[i]->entry = i;
 }
 

@@ -27,15 +27,15 @@ struct Relationship {
 
 /// A workbook file as a package of parts (ECMA-376-2). A part is read when it is needed. An unchanged part is
 /// written back as the same compressed bytes, in the same order. Part names begin with a slash, are decoded
-/// (a blank and not "%20") and are compared without regard to ASCII case. All failures are PackageErrors
-/// whose text is a sentence.
+/// (a space, not "%20") and are compared without regard to ASCII case. All failures are PackageErrors whose
+/// text is a sentence.
 class Package {
  public:
   /// Makes an empty package. The caller adds the parts that every workbook needs.
   Package();
   /// Reads the directory, the content types and the relationships of the package.
   static Package Open(const std::string& path);
-  /// Moves the package. The other object can then only be assigned to or destroyed.
+  /// Moves the package. After that, the other object can only be assigned to or destroyed.
   ///@{
   Package(Package&&) noexcept;
   Package& operator=(Package&&) noexcept;
@@ -105,12 +105,13 @@ class Package {
   std::unique_ptr<Archive> archive_;
   std::vector<std::unique_ptr<Part>> parts_;          // in the order of the file
   std::map<std::string, Part*, std::less<>> byName_;  ///< By name in lower case.
-  /// By the name of the part. They are cached, because each shape of a drawing needs its own.
+  /// The relationships that were read, by the name of the part. They are cached because each shape of a
+  /// drawing looks its own up.
   mutable std::map<std::string, std::vector<Relationship>, std::less<>> relationships_;
   std::unique_ptr<pugi::xml_document> contentTypes_;
   std::map<std::string, pugi::xml_node, std::less<>>
-      overrides_;  ///< Elements of contentTypes_, by part in lower case.
-  std::map<std::string, pugi::xml_node, std::less<>> defaults_;  ///< The same, by extension.
+      overrides_;  ///< `Override` elements of contentTypes_, by part in lower case.
+  std::map<std::string, pugi::xml_node, std::less<>> defaults_;  ///< `Default` elements, by extension.
   bool contentTypesChanged_ = false;
   bool changed_ = false;
 };

@@ -29,7 +29,7 @@ std::optional<char16_t> EscapeAt(std::string_view text, std::size_t at) {
 
 std::string DecodeXString(std::string_view text) {
   if (text.find("_x") == std::string_view::npos) return std::string(text);
-  std::u16string units;  // Two escapes may form one character as a surrogate pair.
+  std::u16string units;  // Two escapes may be the halves of a surrogate pair.
   std::size_t plain = 0;
   for (std::size_t i = 0; i < text.size();) {
     if (const auto unit = EscapeAt(text, i)) {

@@ -9,7 +9,7 @@ namespace plotsmith::xlsx {
 /// (ST_Xstring).
 std::string DecodeXString(std::string_view text);
 /// Encodes a text for an element. Control characters, unpaired surrogates, U+FFFE, U+FFFF, carriage returns
-/// and texts that look like such an escape are written as _xHHHH_; then XML's own escapes are added.
+/// and texts that look like such an escape are written as _xHHHH_. Then XML's own escapes are added.
 std::string EncodeXString(std::string_view text);
 
 }  // namespace plotsmith::xlsx

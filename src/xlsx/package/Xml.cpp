@@ -54,7 +54,8 @@ std::string Encode(std::string_view text, bool attribute) {
   return raw;
 }
 
-/// Values are written undecoded between double quotes, so a bare quote inside a value would end it.
+/// Escapes double quotes in the attributes of an element. Values are written as they are, between double
+/// quotes, so a quote inside a value would end it.
 void QuoteSafe(pugi::xml_node element) {
   std::size_t count = 0;
   for (auto attribute = element.first_attribute(); attribute; attribute = attribute.next_attribute()) {
@@ -66,12 +67,11 @@ void QuoteSafe(pugi::xml_node element) {
   }
 }
 
-constexpr std::string_view kMark = "\xEF\xBB\xBF";  // of the byte order
+constexpr std::string_view kMark = "\xEF\xBB\xBF";  // the byte order mark
 
 enum class Encoding { kUtf8, kMarkedUtf8, kUtf16Big, kUtf16Little, kLatin1, kWindows1252 };
 
-/// Returns the encoding that the XML declaration names, as a view into the text; a null view if it names
-/// none.
+/// Returns the encoding that the XML declaration names, as a view of the text; a null view if it names none.
 std::string_view DeclaredEncoding(std::string_view text) {
   if (!text.starts_with("<?xml")) return {};
   const std::string_view declaration = text.substr(0, text.find("?>"));
@@ -134,7 +134,7 @@ bool IsAscii(std::string_view text) {
 }
 
 bool IsUtf8(std::string_view text) {
-  constexpr std::size_t kBlock = 256;  // Nearly all blocks of a part are ASCII, which is quick to see.
+  constexpr std::size_t kBlock = 256;  // Nearly all blocks of a part are ASCII, which is fast to check.
   for (std::size_t i = 0; i < text.size();) {
     if (const std::string_view block = text.substr(i, kBlock); IsAscii(block)) {
       i += block.size();

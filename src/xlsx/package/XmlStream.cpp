@@ -14,7 +14,8 @@ namespace {
 constexpr std::size_t kWindow = 256 * 1024;
 /// The maximum size of an XML declaration in any encoding.
 constexpr std::ptrdiff_t kDeclaration = 512;
-/// Size of the buffer after the terminating zero. Code that compares several bytes at once may read so far.
+/// The number of bytes of the buffer after the terminating zero. Code that compares several bytes at once may
+/// read them.
 constexpr std::size_t kSlack = 15;
 
 using ascii::IsSpace;
@@ -71,12 +72,12 @@ bool XmlStream::PassText(std::string* text) {
   };
   const char* open = find();
   while (open == nullptr) {
-    if (text == nullptr) position_ = end_;  // The window would grow with a text that isn't passed.
+    if (text == nullptr) position_ = end_;  // Dropped, so that the window doesn't grow.
     if (!Fill()) break;
     open = find();
   }
   const char* const stop = open == nullptr ? end_ : open;
-  // The text is decoded as a whole, because two windows can have a part of an entity each.
+  // The text is decoded as a whole, because an entity may have been divided between two windows.
   if (text != nullptr) *text += xml::Decode({position_, static_cast<std::size_t>(stop - position_)});
   position_ = stop;
   return open != nullptr;

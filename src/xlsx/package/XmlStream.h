@@ -11,8 +11,8 @@
 namespace plotsmith::xlsx {
 
 /// Reads a large part as a stream of tags, through a window that stays in the processor's cache. Elements
-/// have their local names. Text that isn't well-formed raises a PackageError if that is noticed; not all
-/// rules of XML are checked.
+/// have their local names. Text that isn't well-formed raises a PackageError, but not all rules of XML are
+/// checked.
 class XmlStream {
  public:
   /// The kind of a tag.
@@ -58,8 +58,8 @@ class XmlStream {
   bool PassText(std::string* text);
   /// Returns true if the unread bytes begin with `what`. Reads more if the window has too few.
   bool StartsWith(std::string_view what);
-  /// Moves behind the next `what`, which is searched from an offset on. Returns the bytes from the offset to
-  /// `what`, valid until the window moves.
+  /// Moves to the position after the next `what`, which is searched for from an offset on. Returns the bytes
+  /// from the offset to `what`. They are valid until the window moves.
   std::string_view PassTo(std::string_view what, std::size_t from);
   /// Skips a comment or a processing instruction, and appends character data to `text`. Returns false at a
   /// tag.
@@ -83,11 +83,13 @@ struct XmlAttribute {
 };
 
 /// Returns the first attribute of `attributes`, the text between a tag's name and its end, and removes it
-/// from the text. Returns nothing if there is no attribute left, or if the text is none.
+/// from the text. Returns nothing if the text doesn't begin with an attribute.
 std::optional<XmlAttribute> TakeAttribute(std::string_view& attributes);
-/// Returns the decoded value of an attribute in such a text; empty if it is absent.
+/// Returns the decoded value of an attribute; empty if it is absent. `attributes` is the text between a tag's
+/// name and its end.
 std::string AttributeIn(std::string_view attributes, std::string_view name);
-/// Returns the value of a Boolean attribute in such a text; `fallback` if it is absent or isn't a Boolean.
+/// Returns the value of a Boolean attribute; `fallback` if it is absent or isn't a Boolean. `attributes` is
+/// the text between a tag's name and its end.
 bool BooleanIn(std::string_view attributes, std::string_view name, bool fallback = false);
 
 }  // namespace plotsmith::xlsx

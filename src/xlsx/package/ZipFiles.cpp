@@ -184,7 +184,7 @@ class WriteFile final : public ZipFile {
     return true;
   }
 
-  std::uint64_t position_ = 0;  ///< of the block, within the file
+  std::uint64_t position_ = 0;  ///< the position of the block in the file
   std::vector<char> block_;
 };
 

@@ -5,8 +5,8 @@
 
 namespace plotsmith::xlsx {
 
-/// Files for libzip with large blocks. By itself, the library reads and writes four kilobytes at a time, and
-/// a large workbook would spend more time in the kernel than in the pivot. The library owns the returned
+/// Files for libzip with large blocks. By itself, the library reads and writes four kilobytes at a time. With
+/// a large workbook, the system calls would then take more time than the pivot. The library owns the returned
 /// objects.
 
 /// Opens a file for reading. Throws PackageError if that fails.

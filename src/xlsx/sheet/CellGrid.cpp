@@ -91,7 +91,7 @@ std::optional<CellRange> CellGrid::Used() const {
 
 std::string CellGrid::SheetData(const std::string& prefix) const {
   using Kind = excel::CellValue::Kind;
-  // The tags are built once, because a block may have many cells.
+  // The tags are built once, because a sheet may have many cells.
   const std::string open = "<" + prefix, close = "</" + prefix;
   const std::string rowStart = open + "row r=\"", rowEnd = close + "row>", cellStart = open + "c r=\"";
   const std::string valueStart = ">" + open + "v>", valueEnd = close + "v>" + close + "c>";

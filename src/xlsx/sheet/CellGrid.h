@@ -51,10 +51,10 @@ class CellGrid {
   /// Moves rows between above_ and below_ so that `row` is the first row of below_.
   void DivideAt(std::int32_t row);
 
-  /// The rows, divided at the position of the last insertion or deletion. Many rows are inserted at one
-  /// position, and the rows below it don't move each time. `below_` is in reverse order.
+  /// The rows, divided at the position of the last insertion or deletion. Many rows are inserted at the same
+  /// position, and the rows below it don't have to be moved each time. `below_` is in reverse order.
   std::vector<Row> above_, below_;
-  std::size_t held_ = 0;  ///< The number of cells, including those that only fill a row.
+  std::size_t held_ = 0;  ///< The number of cells, including those that were never written.
 };
 
 }  // namespace plotsmith::xlsx

@@ -14,7 +14,7 @@ namespace {
 
 /// The characters that sort before letters, in Excel's order.
 constexpr std::u16string_view kBeforeLetters = u"0123456789 !\"#$%&()*,./:;?@[\\]^_`{|}~+<=>";
-/// The letters among which U+00C0 to U+00FF are sorted; a blank for a character that sorts by itself.
+/// The letters as which U+00C0 to U+00FF are sorted; a space for a character that is sorted as itself.
 constexpr std::u16string_view kBaseLetters =
     u"AAAAAAACEEEEIIII NOOOOO OUUUUY SAAAAAAACEEEEIIII NOOOOO OUUUUY Y";
 constexpr char32_t kLetters = 0x100;  ///< above all weights of kBeforeLetters
@@ -30,7 +30,7 @@ char32_t Weight(char16_t unit) {
 struct TextKey {
   std::u32string letters;  ///< without hyphens and apostrophes, ignoring case and accents
   std::u16string accents;  ///< the same with accents
-  std::u16string marks;    ///< positions of hyphens and apostrophes; texts without any come first
+  std::u16string marks;    ///< hyphens and apostrophes; texts without any come first
   std::u16string cases;    ///< 0 for a lower-case letter, 1 for an upper-case one
 
   auto operator<=>(const TextKey&) const = default;
@@ -81,7 +81,7 @@ struct Row {
   bool IsBefore(const Row& other) const {
     if (rank != other.rank) return rank < other.rank;
     if (rank == 1) return text < other.text;
-    return rank != 3 && number < other.number;  // Errors are all equal.
+    return rank != 3 && number < other.number;  // All errors are equal.
   }
 };
 

@@ -53,7 +53,7 @@ bool Shift(A1Reference& reference, std::int32_t row, std::int32_t count) {
 
 }  // namespace
 
-// A text that is too long can't be a sheet's name.
+// A text that is too long can't be the name of a sheet.
 void FormulaReader::PointTo(std::string sheet, bool elsewhere) {
   place_ = elsewhere || runtime::Len(sheet) > limits::kSheetName ? Place::kElsewhere : Place::kSheet;
   sheet_ = place_ == Place::kSheet ? std::move(sheet) : std::string();

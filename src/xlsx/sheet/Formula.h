@@ -67,7 +67,7 @@ using ShiftsOf = std::function<std::span<const RowShift>(std::string_view sheet)
 std::optional<std::string> ShiftRows(std::string_view formula, std::string_view home,
                                      const ShiftsOf& shiftsOf);
 
-/// Returns a formula as it is after copying to a cell `rows` below and `columns` to the right. Relative
+/// Returns a formula as it becomes when it is copied `rows` down and `columns` to the right. Relative
 /// references move, and become #REF! outside the sheet.
 std::string OffsetFormula(std::string_view formula, std::int32_t rows, std::int32_t columns);
 

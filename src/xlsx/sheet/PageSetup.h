@@ -30,7 +30,7 @@ struct PageSetup {
   bool operator==(const PageSetup&) const = default;
 };
 
-/// Reads the page setup of a worksheet or a chart sheet. Reads the whole part. Throws PackageError.
+/// Reads the page setup of a worksheet or a chart sheet, and so the whole part. Throws PackageError.
 PageSetup ReadPageSetup(Archive::Stream& part);
 
 }  // namespace plotsmith::xlsx

@@ -20,7 +20,7 @@ std::optional<std::int32_t> WholeNumber(std::string_view digits) {
   return value;
 }
 
-/// The column of some letters; 0 outside of the sheet.
+/// Returns the number of the column with the letters, or 0 if it is outside of the sheet.
 std::int32_t ColumnNumber(std::string_view letters) {
   if (letters.size() > 3) return 0;
   std::int32_t column = 0;

@@ -9,12 +9,12 @@ namespace plotsmith::xlsx {
 
 namespace {
 
-/// Returns true if a text may contain a name, ignoring case. Case is ignored for ASCII letters only. Of a
-/// name with characters that a file may write in another way, only the longest stretch of plain characters is
+/// Returns true if a text may contain a name, ignoring case. Case is ignored for ASCII letters only. A file
+/// may write some characters of a name in another way, so only the longest sequence of plain characters is
 /// compared.
 bool Mentions(std::string_view text, std::string_view name) {
   const auto plain = [](char c) { return ascii::IsDigit(c) || ascii::IsLetter(c) || c == '_' || c == ' '; };
-  std::size_t begin = 0, length = 0;  // the longest stretch of plain characters
+  std::size_t begin = 0, length = 0;  // the longest sequence of plain characters
   for (std::size_t i = 0; i < name.size();) {
     std::size_t end = i;
     while (end < name.size() && plain(name[end])) ++end;

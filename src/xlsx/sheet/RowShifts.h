@@ -14,7 +14,7 @@ namespace plotsmith::xlsx {
 
 /// The rows that were inserted and deleted since the workbook was opened, in order. An object that has
 /// references remembers how many of the shifts it has followed, and follows the others when its references
-/// are needed. So an inserted row costs nothing per chart.
+/// are needed. Therefore an inserted row doesn't take time for each chart.
 class RowShifts {
  public:
   /// Adds an insertion of `count` rows at `row`, or a deletion if `count` is negative.
@@ -39,7 +39,7 @@ class RowShifts {
  private:
   std::map<std::string, std::vector<RowShift>, std::less<>> shifts_;  ///< By sheet, in upper case.
   std::size_t count_ = 0;
-  bool marked_ = false;  ///< Whether the last shift is a mark, so that it can't be extended.
+  bool marked_ = false;  ///< Whether an object has followed the last shift, which can't be extended then.
 };
 
 }  // namespace plotsmith::xlsx

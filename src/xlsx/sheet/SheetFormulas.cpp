@@ -53,7 +53,7 @@ class FormulaShifter {
       at = tag->span.end;
       if (tag->kind == XmlTag::Kind::kEnd) continue;
       const std::string_view local = xml::LocalName(tag->name);
-      // A row or cell without a reference follows the previous one.
+      // A row or cell without a reference is the one after the previous row or cell.
       if (local == "row") {
         const auto row = xml::ParseInteger(AttributeIn(tag->attributes, "r"));
         row_ = row ? static_cast<std::int32_t>(std::clamp<long long>(*row, 0, limits::kRows)) : row_ + 1;
@@ -111,7 +111,7 @@ class FormulaShifter {
     return shifts_.Follow(formula, home_, followed_);
   }
 
-  /// Replaces a stretch of the part by another text.
+  /// Replaces a span of the part by another text.
   void Replace(const TextSpan& stretch, const std::string& by) {
     out_.append(part_, copied_, stretch.begin - copied_).append(by);
     copied_ = stretch.end;
@@ -125,7 +125,7 @@ class FormulaShifter {
   std::string_view home_;
   const RowShifts& shifts_;
   std::size_t followed_;
-  std::map<std::string, SharedFormula> shared_;  ///< the affected ones, by their `si`
+  std::map<std::string, SharedFormula> shared_;  ///< the formulas that change, by their `si`
   std::int32_t row_ = 0, column_ = 0;
   std::string out_;
   std::size_t copied_ = 0;

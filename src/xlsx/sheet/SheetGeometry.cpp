@@ -16,7 +16,7 @@ namespace {
 
 constexpr double kPointsPerPixel = 0.75;  // at 96 dots per inch
 constexpr int kDefaultCharacters = 8;
-// Larger values than these limits of Excel aren't valid sizes.
+// Excel's limits. Larger values aren't valid sizes.
 constexpr double kMostCharacters = 255, kMostRowHeight = 409.5, kMostFontSize = 409;
 
 /// Converts a column's width from the file's unit, characters, to points (ECMA-376-1, 18.3.1.13).
@@ -34,7 +34,7 @@ double DefaultColumnPoints(int characters, int digit) {
 }  // namespace
 
 int DigitWidth(const Styles& styles) {
-  // The exact value is known for common default fonts. For others it grows with the size in the same way.
+  // The exact width is known for some common default fonts. For others, it is estimated.
   struct Known {
     std::string_view font;
     double size;
@@ -53,7 +53,8 @@ int DigitWidth(const Styles& styles) {
 void GridLines::SetSize(std::int32_t first, std::int32_t last, double size) {
   last = std::min(last, count_ - 1);
   if (first < 0 || first > last || (!own_.empty() && first <= own_.back().last)) return;
-  // Some programs write a height for each row, which may be the same for a million rows.
+  // Some programs write a height for each row. It may be the same for a million rows, which are then one
+  // range.
   if (!own_.empty() && first == own_.back().last + 1 && size == own_.back().size) {
     own_.back().last = last;
     return;

@@ -19,8 +19,8 @@ namespace {
 using ascii::IsDigit;
 using ascii::IsSpace;
 
-/// Converts a number of a sheet. Common numbers, with few digits and no exponent, are exact quotients of two
-/// whole numbers below 2^53; the library converts the others.
+/// Converts a number of a sheet. Common numbers, with few digits and no exponent, are quotients of two whole
+/// numbers below 2^53, which a double holds exactly. The library converts the others.
 std::optional<double> CellNumber(std::string_view text) {
   constexpr int kExactDigits = 15;
   static constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
@@ -44,14 +44,14 @@ std::optional<double> CellNumber(std::string_view text) {
   return xml::ParseDouble(text);
 }
 
-/// Reads the rows and cells. It reads cells directly from the window: if a cell isn't completely in the
-/// window, the window moves and the cell is read again from its beginning. So the inner loops only look at
-/// the next byte. The zero byte after the window ends each of these loops.
+/// Reads the rows and cells. Cells are read directly from the window. If a cell isn't completely in the
+/// window, the window moves and the cell is read again from its beginning. Therefore the inner loops only
+/// check the next byte. The zero byte after the window ends each of these loops.
 ///
-/// Nearly all cells that programs write have one of two shapes, and most rows have one. They are read by
-/// comparing whole stretches of text (TakePlainCell, TakePlainRow), so that reading a large sheet takes
-/// little longer than decompressing it. Cells of other shapes are read by the general code, which gives the
-/// same results.
+/// Nearly all cells that programs write have one of two forms, and most rows have a common form. They are
+/// read by comparing whole pieces of text (TakePlainCell, TakePlainRow). Therefore reading a large sheet
+/// takes little longer than decompressing it. The general code reads cells of other forms, with the same
+/// results.
 class SheetScanner : public XmlStream {
  public:
   SheetScanner(Archive::Stream& source, DateSystem dates) : XmlStream(source), dates_(dates) {}
@@ -79,19 +79,20 @@ class SheetScanner : public XmlStream {
   void ReadRows();
   void ReadMergedCells();
   /// Reads the cell, or the row's start tag, at `p`, and returns the position after it. Returns null and
-  /// reads nothing if it doesn't have the plain shape or isn't completely in the window.
+  /// reads nothing if it doesn't have the plain form or isn't completely in the window.
   const char* TakePlainCell(const char* p);
   const char* TakePlainRow(const char* p);
   Piece ReadPiece();
-  /// Reads a cell. `p` is behind the name in its start tag.
+  /// Reads a cell. `p` is after the name in its start tag.
   Piece ReadCell(const char* p);
-  /// Reads the rest of a cell's start tag. Returns the position behind it, or null if the window ends first.
+  /// Reads the rest of a cell's start tag. Returns the position after it, or null if the window ends first.
   const char* ReadCellTag(const char* p, CellTag& tag) const;
   static void SetCellAttribute(char name, std::string_view value, CellTag& tag);
   Piece ReadRareCell(const char* p, const CellTag& tag, std::string_view value, bool formula);
   const char* PassFormula(const char* p) const;
   void ReadRow(std::string_view attributes);
-  /// `value` is as written unless it was decoded, and a null view for an empty cell.
+  /// Stores a cell. `value` is the text as written, or decoded if `decoded` is true; a null view for an empty
+  /// cell.
   void Store(const CellTag& tag, std::string_view value, bool decoded = false);
 
   void Put(std::int32_t column, PackedValue value, std::uint32_t style) {
@@ -99,7 +100,7 @@ class SheetScanner : public XmlStream {
       throw PackageError("it has more cells than Plotsmith supports");
     if (row_ == 0) row_ = 1;  // a cell outside of any row
     column_ = column;
-    // A blank without a style is no cell in Excel, and doesn't extend the used range.
+    // In Excel, an empty cell without a style doesn't extend the used range.
     if (value.GetKind() != PackedValue::Kind::kEmpty || style != 0) Use(column);
     contents_.cells.Append(row_, column, value, style);
   }
@@ -128,7 +129,7 @@ class SheetScanner : public XmlStream {
   std::int32_t row_ = 0;
   std::int32_t column_ = 0;
   CellRange used_{limits::kRows, limits::kColumns, 0, 0};
-  std::string text_, piece_;  // of a rare cell
+  std::string text_, piece_;  // the text of a rare cell, and a piece of it
 };
 
 /// Reads up to and including the start tag of sheetData; returns false if there is none, or if the element is
@@ -330,7 +331,7 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
   if (p == nullptr) return Piece::kCut;
   std::string_view text;
   bool formula = false;
-  while (tag.open) {  // what the cell holds
+  while (tag.open) {  // the children of the cell
     while (*p != '<' && *p != '\0') ++p;
     if (*p == '\0') return Piece::kCut;
     const char* inner = p + 1;
@@ -406,7 +407,8 @@ void SheetScanner::SetCellAttribute(char name, std::string_view value, CellTag& 
   }
 }
 
-/// From behind the name of a formula to behind the formula; null if the window ends before it does.
+/// Returns the position after a formula; null if the window ends first. `p` is after the name in its start
+/// tag.
 const char* SheetScanner::PassFormula(const char* p) const {
   while (*p != '>' && *p != '\0') ++p;
   if (*p == '\0') return nullptr;
@@ -416,9 +418,9 @@ const char* SheetScanner::PassFormula(const char* p) const {
   return *p == '\0' ? nullptr : p + 1;
 }
 
-/// A cell with an inline string, character data, or what some extension put there. It is read with the
-/// general reader from `p`, the "<" of a child of the cell, on; that may move the window, so the views are
-/// copied first. `value` and `formula` tell of the children before that one.
+/// Reads a cell with an inline string, character data or an extension. It uses the general reader from `p`
+/// on, which is the "<" of a child of the cell. This may move the window, so the views are copied first.
+/// `value` and `formula` come from the children before that one.
 SheetScanner::Piece SheetScanner::ReadRareCell(const char* p, const CellTag& tag, std::string_view value,
                                                bool formula) {
   const std::string type(tag.type);

@@ -24,8 +24,8 @@ std::optional<XmlTag> FindInHead(std::string_view text, std::string_view local) 
   return std::nullopt;
 }
 
-/// Finds the first child of the root, after another child, whose local name satisfies `wanted`; else the
-/// root's end tag.
+/// Finds the first child of the root, from the position `from` on, whose local name satisfies `wanted`. If
+/// there is none, returns the root's end tag.
 template <class Wanted>
 XmlTag FindChild(std::string_view text, std::size_t from, const Wanted& wanted) {
   int depth = 0;

@@ -9,7 +9,7 @@ namespace plotsmith::xlsx {
 struct SheetView {
   bool gridLines = true;       ///< Whether gridlines are shown.
   bool headings = true;        ///< Whether the letters of columns and the numbers of rows are shown.
-  CellPlace topLeft{1, 1};     ///< The first visible cell, after the frozen rows and columns.
+  CellPlace topLeft{1, 1};     ///< The first visible cell beyond the frozen rows and columns.
   CellPlace activeCell{1, 1};  ///< The active cell.
   /// The number of rows at the top, and of columns at the left, that don't scroll.
   std::int32_t frozenRows = 0, frozenColumns = 0;

@@ -117,7 +117,7 @@ const NumberFormat& Styles::Format(std::uint32_t style) const { return *Known(st
 void Styles::Parse(const CellStyle& style) const {
   static const std::shared_ptr<const NumberFormat> general = NumberFormat::Parse("General");
   style.format = NumberFormat::Parse(CodeOf(style.formatId));
-  if (!style.format) style.format = general;  // A format that Excel would refuse shows numbers as General.
+  if (!style.format) style.format = general;  // Excel would refuse the code.
   style.general = style.format->IsGeneral();
   style.date = style.format->IsDate();
 }

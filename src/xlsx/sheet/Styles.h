@@ -23,9 +23,9 @@ class Styles {
 
   /// Returns the number format of a cell style, an index into cellXfs; General if there is no such style.
   const NumberFormat& Format(std::uint32_t style) const;
-  /// Returns true if the format is General. This is fast, because it is called for each cell; so is IsDate.
+  /// Returns true if the format of a cell style is General. It is called for each cell, and is fast.
   bool IsGeneral(std::uint32_t style) const { return Known(style).general; }
-  /// Returns true if the format of a cell style shows a date.
+  /// Returns true if the format of a cell style shows a date. It is called for each cell, and is fast.
   bool IsDate(std::uint32_t style) const { return Known(style).date; }
   /// Returns the code of a cell style's number format.
   std::string FormatCode(std::uint32_t style) const;
@@ -63,7 +63,7 @@ class Styles {
   struct CellStyle {
     pugi::xml_node node;
     int formatId = 0;
-    mutable std::shared_ptr<const NumberFormat> format;  // Parsed on first use, like the two flags.
+    mutable std::shared_ptr<const NumberFormat> format;  // Parsed at the first use, like the flags.
     mutable bool general = false, date = false;
   };
   const CellStyle& Known(std::uint32_t style) const {

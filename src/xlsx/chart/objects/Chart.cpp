@@ -106,7 +106,7 @@ void Chart::SetHasTitle(bool value) {
   } else {
     schema::Remove(chart, "title");
   }
-  // Without this, a chart of one series shows the name of the series as its title.
+  // Without this element, a chart of one series would show the name of the series as its title.
   schema::SetBooleanVal(chart, "autoTitleDeleted", !value);
   part_->MarkChanged();
 }

@@ -22,7 +22,7 @@ using runtime::Variant;
 
 namespace {
 
-/// The colour of Excel's window, which is behind charts without a fill.
+/// The background colour of Excel's window, which is visible behind charts without a fill.
 std::int32_t Ground(ChartPart& part) { return part.Theme().SchemeColor("bg1").value_or(0xFFFFFF); }
 
 Ref<excel::Interior> InteriorOf(const FormattedElement& area) {

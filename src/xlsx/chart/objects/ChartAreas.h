@@ -5,7 +5,7 @@
 #include "host/excel/ChartArea.h"
 #include "host/excel/PlotArea.h"
 
-/// The chart area and the plot area for the port. `frame` is the shape that contains the chart on a sheet and
+/// The chart area and the plot area for the port. `frame` is the shape that contains an embedded chart, and
 /// determines the size of the areas.
 namespace plotsmith::xlsx {
 

@@ -22,7 +22,7 @@ std::vector<pugi::xml_node> RunProperties(pugi::xml_node element) {
         properties.push_back(schema::Ensure(child, "rPr"));
         empty = false;
       }
-      // The end mark of an empty paragraph has the format of text that will be typed there.
+      // The end mark of an empty paragraph has the format that newly typed text gets.
       const auto ending = xml::Child(paragraph, "endParaRPr");
       if (empty && ending && xml::Is(body, "rich")) properties.push_back(ending);
     }

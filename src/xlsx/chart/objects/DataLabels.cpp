@@ -24,7 +24,7 @@ using runtime::Variant;
 
 namespace {
 
-/// The labels of a series, and those of single points, which repeat all settings.
+/// Returns the labels of a series and those of its single points, which repeat all settings.
 std::vector<pugi::xml_node> AllOf(pugi::xml_node labels) {
   std::vector<pugi::xml_node> all = {labels};
   for (const pugi::xml_node& label : xml::Children(labels, "dLbl")) {
@@ -33,7 +33,7 @@ std::vector<pugi::xml_node> AllOf(pugi::xml_node labels) {
   return all;
 }
 
-/// The runs of a label's own text don't inherit the label's format, so the format is repeated in each run.
+/// Repeats the format of a label in each run of its own text, because these runs don't inherit it.
 void FormatRuns(pugi::xml_node label) {
   for (const pugi::xml_node& paragraph : xml::Children(xml::Child(label, "tx", "rich"), "p")) {
     const auto defaults = xml::Child(paragraph, "pPr", "defRPr");

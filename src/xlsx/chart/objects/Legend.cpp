@@ -45,7 +45,7 @@ class LegendObject final : public excel::Legend {
   std::int32_t Position() override {
     const auto legend = Node();
     const auto position = kLegendPositions.Number(schema::Val(legend, "legendPos", kLegendPositions.absent));
-    // A legend that was moved by hand has no position.
+    // A legend with a manual layout has no position.
     if (!position || PlaceOf(legend)) throw CantGet("Position", "Legend");
     return *position;
   }
@@ -55,7 +55,7 @@ class LegendObject final : public excel::Legend {
     if (!token) throw CantSet("Position", "Legend");
     const pugi::xml_node legend = Node();
     schema::SetVal(legend, "legendPos", *token);
-    // A place that was set by hand would override the position.
+    // A manual layout would override the position.
     schema::Remove(xml::Child(legend, "layout"), "manualLayout");
     part_->MarkChanged();
   }
@@ -77,7 +77,7 @@ class LegendObject final : public excel::Legend {
     return legend;
   }
 
-  /// The layout of a legend that was moved by hand. A layout with only a size doesn't count.
+  /// Returns the manual layout of a legend; a null node if there is none, or if it sets only the size.
   static pugi::xml_node PlaceOf(pugi::xml_node legend) {
     const auto layout = xml::Child(legend, "layout", "manualLayout");
     return xml::Child(layout, "x") || xml::Child(layout, "y") ? layout : pugi::xml_node();

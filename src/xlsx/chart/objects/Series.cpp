@@ -54,7 +54,7 @@ class SeriesObject final : public excel::Series {
   void SetValues(const Variant& reference) override { Set(SeriesData::kValues, "Values", reference); }
   void SetBubbleSizes(const Variant& reference) override {
     Set(SeriesData::kBubbleSizes, "BubbleSizes", reference);
-    // Sizes of a chart without bubbles are kept until it has some.
+    // If the chart has no bubbles, their sizes are set aside until it has some.
     RemoveMisfits(*series_.part, series_.Node());
   }
   std::vector<Variant> Values() override { return CachedNumbers(FindValues(series_.Node())); }

@@ -14,7 +14,7 @@ struct SeriesHandle {
   std::shared_ptr<ChartPart> part;  ///< The chart part of the series.
   SeriesRef entry;                  ///< The entry, whose node is null after the series was deleted.
 
-  /// The series element; error 1004 if the series was deleted.
+  /// The series element; raises error 1004 if the series was deleted.
   pugi::xml_node Node() const;
   /// The path of the series in the journal.
   std::string Path() const;

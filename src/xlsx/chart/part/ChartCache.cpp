@@ -85,7 +85,8 @@ CacheWriter::CacheWriter(pugi::xml_node cache, std::size_t count) : cache_(cache
 }
 
 void CacheWriter::Add(std::size_t index, std::string_view text) {
-  // Points come last and may be many, so they are appended without a search for their place.
+  // The points are the last children, and there may be many. They are appended without a search for their
+  // position.
   pugi::xml_node point = cache_.append_child(pointName_.c_str());
   point.append_attribute("idx").set_value(static_cast<unsigned long long>(index));
   SetRaw(point.append_child(valueName_.c_str()), text);

@@ -113,7 +113,7 @@ std::shared_ptr<ChartShape> ChartDrawing::AddAutoShape(std::string_view name, st
 }
 
 std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes) {
-  // The members in the order in which they are drawn, each once.
+  // The members of the group in drawing order, without duplicates.
   std::vector<std::shared_ptr<ChartShape>> members;
   for (const auto& shape : shapes_) {
     if (std::find(shapes.begin(), shapes.end(), shape) != shapes.end()) members.push_back(shape);
@@ -135,7 +135,7 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
   foremost.parent().insert_move_after(group->Anchor(), foremost);
   pugi::xml_node object = group->Object();
   for (const auto& member : members) {
-    // In a group, an object's own transform gives its place.
+    // In a group, an object's own transform determines its position.
     SetTransform(member->Object(), member->PlacedFrame());
     object.append_move(member->Object());
   }

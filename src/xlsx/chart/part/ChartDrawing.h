@@ -18,7 +18,7 @@ class DrawnShape;
 /// part is created with the first shape and removed with the last one.
 class ChartDrawing : public AnchoredShapes<ChartShape> {
  public:
-  /// Reads the part, if there is one. Error 1004 if it can't be read.
+  /// Reads the part, if there is one. Raises error 1004 if it can't be read.
   explicit ChartDrawing(ChartPart& chart);
   ~ChartDrawing() override;
 
@@ -26,16 +26,17 @@ class ChartDrawing : public AnchoredShapes<ChartShape> {
   ChartPart& Chart() const { return chart_; }
   /// Sets the shape that contains the chart on its sheet and determines the chart's size.
   void SetFrame(std::weak_ptr<DrawnShape> frame) { frame_ = std::move(frame); }
-  /// Width and height in points.
+  /// The width and height of the chart in points.
   Frame Size() const;
 
-  /// Frames are in points from the upper left corner of the chart.
+  /// Adds a text box. `frame` is in points from the upper left corner of the chart.
   std::shared_ptr<ChartShape> AddTextbox(const Frame& frame);
-  /// The shape's name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
+  /// Adds an AutoShape. Its name is `name` and a number; `preset` is its geometry in the file (ST_ShapeType).
+  /// `frame` is in points, like that of a text box.
   std::shared_ptr<ChartShape> AddAutoShape(std::string_view name, std::string_view preset,
                                            const Frame& frame);
-  /// Groups several shapes into one. The group takes the front-most shape's place in the drawing order. Error
-  /// 1004 if fewer than two of the shapes are on the chart.
+  /// Groups several shapes into one. The group takes the front-most shape's place in the drawing order.
+  /// Raises error 1004 if fewer than two of the shapes are on the chart.
   std::shared_ptr<ChartShape> Group(const std::vector<std::shared_ptr<DrawnShape>>& shapes);
   /// Updates the part and the chart's link to it.
   void Write();

@@ -22,7 +22,7 @@ std::string EmptyChart(bool strict) {
 
 namespace {
 
-/// A plot group without series counts as one.
+/// Returns the number of series. A plot group without series counts as one.
 std::size_t CountSeries(pugi::xml_node space) {
   std::size_t count = 0;
   for (const pugi::xml_node& child : xml::Child(space, "chart", "plotArea").children()) {

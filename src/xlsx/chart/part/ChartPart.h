@@ -42,9 +42,9 @@ class ChartPart {
   /// Call this when the chart is deleted. After that, every use of it, its series and its shapes raises error
   /// 1004.
   void Leave();
-  /// The chartSpace element. Error 1004 if the part can't be read or the chart was deleted.
+  /// The chartSpace element. Raises error 1004 if the part can't be read or the chart was deleted.
   pugi::xml_node Space();
-  /// Returns true if the part can be parsed. Error 1004 if the chart was deleted.
+  /// Returns true if the part can be parsed. Raises error 1004 if the chart was deleted.
   bool IsReadable();
   /// The chart element, which is made if it is missing.
   pugi::xml_node Chart();

@@ -20,7 +20,7 @@ void SetFractions(pugi::xml_node marker, double x, double y) {
   xml::SetText(xml::Child(marker, "y"), xml::Number(std::clamp(y, 0.0, 1.0)));
 }
 
-/// Fractions of the chart are not exact in the last digits. The result is rounded to whole units of the file.
+/// Rounds points to whole EMU, because fractions of the chart's size aren't exact in the last digits.
 double Settled(double points) { return std::round(points * kEmuPerPoint) / kEmuPerPoint; }
 
 }  // namespace

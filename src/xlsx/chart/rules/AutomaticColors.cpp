@@ -22,7 +22,7 @@ struct Variation {
   int lumMod = 100000, lumOff = 0;
 };
 
-/// The variation for each further round through the accents, as in Excel's colourful palette.
+/// The variations of the accents, one for each round through them, as in Excel's colourful palette.
 constexpr std::array<Variation, 9> kRounds = {{{100000, 0},
                                                {60000, 0},
                                                {80000, 20000},
@@ -55,7 +55,8 @@ std::int32_t TintedColor(ChartPart& part, const std::string& color, int left) {
   return part.Color(holder.first_child()).value_or(0);
 }
 
-/// In styles with one colour, the series go from dark to light without reaching black or white.
+/// Returns the variation for a series in the styles with one colour. The series go from dark to light without
+/// reaching black or white.
 Variation Faded(std::size_t index, std::size_t count) {
   const double place = static_cast<double>(index + 1) / static_cast<double>(count + 1) * 1.4 - 0.7;
   const int kept = static_cast<int>(std::lround((1 - std::abs(place)) * 100000));

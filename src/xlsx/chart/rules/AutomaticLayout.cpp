@@ -23,9 +23,9 @@
 namespace plotsmith::xlsx {
 namespace {
 
-// Further constants of the kind in the header.
+// Further estimated constants, like those in the header; lengths are in points.
 constexpr double kLegendPadding = 8;  // around all entries together
-constexpr double kKeyEms = 2.4;       // a legend key with the gaps around it, which grows with the text
+constexpr double kKeyEms = 2.4;       // ems; the width of a legend key with the gaps around it
 
 /// The typeface at the beginning of an element's text.
 TextFace FaceOf(ChartPart& part, pugi::xml_node element, TextRole role) {
@@ -33,7 +33,8 @@ TextFace FaceOf(ChartPart& part, pugi::xml_node element, TextRole role) {
   return {look.typeface, look.points, look.bold};
 }
 
-/// Returns the space that a title takes across its text, in points; 0 if the title overlays the plot area.
+/// Returns the space that a title takes perpendicular to its text, in points; 0 if the title overlays the
+/// plot area.
 double TitleDepth(ChartPart& part, pugi::xml_node title, TextRole role, double room) {
   if (!title || schema::BooleanVal(title, "overlay", false)) return 0;
   const TextFace face = FaceOf(part, title, role);
@@ -49,7 +50,7 @@ double TitleDepth(ChartPart& part, pugi::xml_node title, TextRole role, double r
   return lines * LineHeight(face) + kTitlePadding;
 }
 
-/// Subtracts the space of the legend from the free space.
+/// Adds the space of the legend to the taken space.
 void SetLegendAside(ChartPart& part, const Frame& chart, Edges& taken) {
   const auto legend = xml::Child(part.Chart(), "legend");
   if (!legend || schema::BooleanVal(legend, "overlay", false)) return;

@@ -11,7 +11,7 @@
 namespace plotsmith::xlsx {
 namespace {
 
-/// Applies one direction of a manual layout. The mode `factor` counts from the automatic place.
+/// Applies one direction of a manual layout. The mode `factor` counts from the automatic position.
 void Apply(pugi::xml_node layout, const char* place, const char* placeMode, const char* size,
            const char* sizeMode, double chart, double& from, double& extent) {
   if (const auto at = schema::NumberVal(layout, place)) {

@@ -12,7 +12,7 @@ namespace {
 // Excel's default text sizes.
 constexpr double kPoints = 10;
 constexpr double kTitlePoints = 18;
-constexpr double kTitleGrowth = 1.2;  // relative to the chart's own size, if it has one
+constexpr double kTitleGrowth = 1.2;  // multiplies the chart's own text size, if it has one
 
 /// Text properties in order of precedence. Null nodes are skipped.
 using Chain = std::vector<pugi::xml_node>;
@@ -119,7 +119,7 @@ std::vector<TextLook> LooksOfLabels(ChartPart& part, pugi::xml_node labels, std:
     AddRuns(part, rich, {defaults, own}, TextRole::kOther, looks);
     if (looks.size() == before) looks.push_back(Look(part, {defaults, own}, TextRole::kOther));
   }
-  // If each point has its own label, no label has the common format.
+  // The common format counts unless every point has its own label.
   if (special < points || looks.empty()) looks.push_back(Look(part, {own}, TextRole::kOther));
   return looks;
 }

@@ -13,7 +13,7 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr const char* kExplosion = "25";        // percent; Excel's default for exploded slices
-constexpr const char* kScatterWidth = "28575";  // EMU, of the hidden line of a scatter chart without lines
+constexpr const char* kScatterWidth = "28575";  // EMU; of hidden lines in scatter charts
 
 bool Lists(std::string_view list, std::string_view word) {
   for (std::size_t at = 0; at <= list.size();) {
@@ -125,7 +125,7 @@ void RemoveMisfits(ChartPart& part, pugi::xml_node series) {
 }
 
 void FitToGroup(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type) {
-  // Only lines have this element, and Excel and this host always write it.
+  // Only the series of lines have this element. Excel and this host always write it.
   const bool wasLine = static_cast<bool>(xml::Child(series, "smooth"));
   RemoveMisfits(part, series);
   if (type.HasXValues()) {

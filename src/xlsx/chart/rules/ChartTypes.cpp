@@ -87,8 +87,8 @@ constexpr Stacking kBars = {excel::xlBarClustered, excel::xlBarStacked, excel::x
 constexpr Stacking kLines = {excel::xlLine, xlLineStacked, xlLineStacked100};
 constexpr Stacking kMarkedLines = {excel::xlLineMarkers, xlLineMarkersStacked, xlLineMarkersStacked100};
 
-/// 3-D columns and bars by their shape (ST_Shape). Columns drawn behind each other have their own type; there
-/// is none for bars.
+/// The types of 3-D columns and bars by their shape (ST_Shape). Columns that are drawn behind each other have
+/// a type of their own; such bars have none.
 struct ColumnShape {
   std::string_view shape;
   Stacking columns, bars;
@@ -127,7 +127,7 @@ std::int32_t BarType(pugi::xml_node group, pugi::xml_node series, bool is3D) {
   return (bars ? entry.bars : entry.columns).Of(grouping);
 }
 
-/// Whether a marker is drawn; `fallback` if the series has no setting.
+/// Returns true if a marker is drawn; `fallback` if the series has no setting.
 bool HasMarkers(pugi::xml_node series, bool fallback) {
   const std::string symbol = schema::Val(xml::Child(series, "marker"), "symbol");
   return symbol.empty() ? fallback : symbol != "none";
@@ -152,7 +152,7 @@ std::int32_t ScatterType(pugi::xml_node group, pugi::xml_node series) {
   return markers ? xlXYScatterLines : xlXYScatterLinesNoMarkers;
 }
 
-/// A pie counts as exploded if one of its slices is.
+/// Returns true if at least one slice of a pie is exploded.
 bool IsExploded(pugi::xml_node series) {
   const auto moved = [](pugi::xml_node node) { return schema::IntegerVal(node, "explosion", 0) > 0; };
   if (xml::Child(series, "explosion")) return moved(series);

@@ -83,7 +83,8 @@ pugi::xml_node Restored(pugi::xml_node plotArea, pugi::xml_node setAside) {
   return axis;
 }
 
-/// Returns the chart's axis for a role: the present one, else the last one that it had, else a new one.
+/// Returns the chart's axis for a role: the present one; otherwise the last one that the chart had; otherwise
+/// a new one.
 pugi::xml_node EnsureAxis(ChartPart& part, pugi::xml_node present, const char* role) {
   if (present) return present;
   if (const auto setAside = part.FindSetAside(role).first_child()) return Restored(part.PlotArea(), setAside);
@@ -93,7 +94,8 @@ pugi::xml_node EnsureAxis(ChartPart& part, pugi::xml_node present, const char* r
   return axis;
 }
 
-/// Makes an axis vertical or horizontal, on the side that corresponds to its former side.
+/// Makes an axis vertical if `upright` is true, otherwise horizontal. Its new side corresponds to its former
+/// side.
 void TurnAxis(pugi::xml_node axis, bool upright) {
   const std::string side = schema::Val(axis, "axPos", "b");
   const bool far = side == "t" || side == "r";

@@ -28,7 +28,7 @@ pugi::xml_node FindAxis(ChartPart& part, bool value);
 /// Returns the axis that an axis crosses.
 pugi::xml_node FindCrossedAxis(pugi::xml_node axis);
 
-/// Gives a group the axes that its type needs: those that it had (`old`), those that an earlier type has
+/// Gives a group the axes that its type needs: the axes that it had (`old`), those that an earlier type has
 /// left, or new ones. Other axes are removed. `state` contains the elements that were set aside for the type.
 /// `familyChanged` is true if the earlier type crosses its axes at another place (CrossBetween), so that
 /// their setting no longer applies.

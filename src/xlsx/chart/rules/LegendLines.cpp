@@ -29,7 +29,7 @@ bool ListsPoints(ChartPart& part) {
   return part.Series().size() == 1 && schema::BooleanVal(groups[0], "varyColors", false);
 }
 
-/// Returns the texts of the categories. Several levels are joined to one text, the outermost first.
+/// Returns the texts of the categories. Several levels are joined into one text, the outermost first.
 std::map<std::size_t, std::string> CategoryTexts(ChartPart& part, pugi::xml_node categories) {
   const auto cache = xml::Child(categories, "multiLvlStrRef", "multiLvlStrCache");
   if (!cache) return DataTexts(part, categories);
@@ -44,7 +44,7 @@ std::map<std::size_t, std::string> CategoryTexts(ChartPart& part, pugi::xml_node
       texts = std::move(own);
       continue;
     }
-    // A text of an outer level is valid until the next one.
+    // A text of an outer level applies until the next text of that level.
     for (auto& [index, text] : texts) {
       const auto next = own.upper_bound(index);
       if (next != own.begin()) text.insert(0, std::prev(next)->second + " ");

@@ -18,10 +18,10 @@ struct LegendLine {
   std::optional<std::size_t> point;  ///< the point, in a legend of points
   std::string text;                  ///< the shown text
 };
-/// The numbers of the first `most` entries that were not deleted. The limit matters because a part may
-/// declare millions of points that it doesn't contain.
+/// The numbers of the first `most` entries that were not deleted, from 0. The limit matters because a part
+/// may declare millions of points that it doesn't contain.
 std::vector<std::size_t> LegendNumbers(ChartPart& part, std::size_t most = SIZE_MAX);
-/// The same entries with their texts.
+/// The first `most` entries that were not deleted, with their texts.
 std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most = SIZE_MAX);
 /// The texts of the entries that were not deleted.
 std::vector<std::string> LegendTexts(ChartPart& part);

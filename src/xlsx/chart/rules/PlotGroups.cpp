@@ -49,7 +49,7 @@ void LayTypeAside(ChartPart& part, pugi::xml_node group) {
   if (!between.empty()) xml::SetAttribute(state, "crossBetween", between);
 }
 
-/// Returns the group that was set aside for the type, else one that is derived from an old group.
+/// Returns the group that was set aside for the type; otherwise one that is derived from an old group.
 pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEntry& type,
                          pugi::xml_node state) {
   const auto setAside = xml::Child(state, type.element);
@@ -59,8 +59,8 @@ pugi::xml_node MakeGroup(ChartPart& part, pugi::xml_node old, const ChartTypeEnt
   return group;
 }
 
-/// Sets the view, floor and walls: those that were set aside for the type, else the present ones of the same
-/// kind, else Excel's defaults.
+/// Sets the view, floor and walls: those that were set aside for the type; otherwise the present ones, if
+/// they are of the same kind; otherwise Excel's defaults.
 void Arrange3DView(pugi::xml_node chart, const ChartTypeEntry& type, pugi::xml_node state, bool sameKind) {
   if (!type.Is3D() || state || !sameKind) {
     for (const std::string_view element : k3DViewElements) schema::Remove(chart, element);
@@ -90,7 +90,7 @@ int DrawingRank(pugi::xml_node group) {
   return 3;
 }
 
-/// Moves a group to its place in the order of drawing.
+/// Moves a group to its position in the drawing order.
 void PutInDrawingOrder(pugi::xml_node group) {
   for (const pugi::xml_node& other : group.parent().children()) {
     if (other != group && schema::IsGroup(other) && DrawingRank(other) > DrawingRank(group)) {
@@ -114,10 +114,10 @@ std::vector<pugi::xml_node> FilteredSeriesOf(ChartPart& part) {
   return filtered;
 }
 
-/// A stock chart has three or four series (CT_StockChart). With any other number it becomes
-/// a line chart, which may have the same lines, bars and labels.
+/// Makes a stock chart a line chart unless it has three or four series (CT_StockChart). A line chart may have
+/// the same lines, bars and labels.
 void KeepStockWhole(pugi::xml_node group) {
-  constexpr std::size_t kFewest = 3, kMost = 4;  // high, low and close; open before them
+  constexpr std::size_t kFewest = 3, kMost = 4;  // high, low and close, with or without open
   if (!xml::Is(group, "stockChart")) return;
   const std::size_t count = xml::Children(group, "ser").size();
   if (count >= kFewest && count <= kMost) return;
@@ -178,7 +178,7 @@ SeriesRef AddSeries(ChartPart& part) {
 
 namespace {
 
-/// A plot area without a group is not valid.
+/// Adds a group to a plot area without one, which would not be valid.
 void EnsureGroup(ChartPart& part) {
   if (!part.Groups().empty()) return;
   SetType(part, *FindChartType(excel::xlColumnClustered));
@@ -226,7 +226,7 @@ void SetType(ChartPart& part, const ChartTypeEntry& type) {
   const bool familyChanged = kind.empty() || CrossBetween(kind) != CrossBetween(type.element);
   ArrangeAxes(part, group, axes, type, state, familyChanged);
   Arrange3DView(part.Chart(), type, state, kind.starts_with("pie") == type.IsPie());
-  // Without this element, Excel shows gaps and other programs show zeros. A pivot contains blanks.
+  // Without this element, Excel shows gaps and other programs show zeros. A pivot can contain empty cells.
   if (!xml::Child(part.Chart(), "dispBlanksAs")) schema::SetVal(part.Chart(), "dispBlanksAs", "gap");
 }
 

@@ -27,8 +27,8 @@ void DeleteSeries(ChartPart& part, const SeriesRef& series);
 /// not lose the user's formatting.
 void SetType(ChartPart& part, const ChartTypeEntry& type);
 /// Moves one series into a group of the type, on the axes of the other groups. All series of a kind share a
-/// group, so a change in the stacking of columns applies to all columns. Error 1004 if the types can't be
-/// combined.
+/// group, so a change in the stacking of columns applies to all columns. Raises error 1004 if the types can't
+/// be combined.
 void SetSeriesType(ChartPart& part, pugi::xml_node series, const ChartTypeEntry& type);
 
 /// Completes a changed chart before it is written. A chart without a group gets an empty one of clustered

@@ -20,7 +20,7 @@ using runtime::Variant;
 
 namespace {
 
-/// X values are numbers; if they are texts, the number of the point is used.
+/// Adds the X values of a series to an extent. If they are texts, the numbers of the points replace them.
 void AddXValues(pugi::xml_node series, DataExtent& extent) {
   const auto numbers = CachedNumbers(xml::Child(series, "xVal"));
   for (const Variant& number : numbers) {

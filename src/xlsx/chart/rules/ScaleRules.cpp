@@ -7,7 +7,7 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr double kHeadroom = 0.05;        // of the data's range, above its largest value
-constexpr double kFarFromZero = 1.0 / 6;  // of the largest value; an axis of a smaller range has no zero
+constexpr double kFarFromZero = 1.0 / 6;  // of the largest value; axes of smaller ranges don't begin at zero
 constexpr double kFootroom = 0.5;         // of the range, below the smallest value of such an axis
 constexpr double kMostSteps = 10;         // major units on an axis of the usual length
 constexpr double kDust = 1e-9;            // of a unit: a value this close to a step counts as that step

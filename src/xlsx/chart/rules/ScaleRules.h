@@ -6,7 +6,7 @@ namespace plotsmith::xlsx {
 
 /// The scale of a value axis, by the rules of Microsoft's article "How chart axis limits are calculated".
 struct AxisScale {
-  /// The ends of the axis and the distance of two major ticks, in the unit of the values.
+  /// The ends of the axis, and the distance between two major ticks, in the unit of the values.
   double minimum = 0, maximum = 1, majorUnit = 0.1;
 };
 

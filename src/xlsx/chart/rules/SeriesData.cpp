@@ -41,8 +41,8 @@ const char* PropertyName(SeriesData which) {
   return "Values";
 }
 
-/// Finds the cells of a formula without its equals sign. Absent if no sheet has them or if they are too many
-/// for a cache.
+/// Finds the cells that a formula, without its equals sign, refers to. Returns nothing if no sheet has them,
+/// or if they are too many for a cache.
 std::optional<Source> FindCells(ChartPart& part, std::string_view formula) {
   const auto range = ParseSheetRange(formula);
   auto sheet = range ? part.Book().FindCells(range->sheet) : nullptr;
@@ -122,7 +122,7 @@ pugi::xml_node Emptied(pugi::xml_node series, std::string_view local) {
 }
 
 /// Returns true if the chart has room for a cache of the source. The cache serves programs that don't read
-/// the cells. A chart with too many points only refers to its cells, which is enough for Excel.
+/// the cells. If a chart has too many points, its series only refer to cells, which is enough for Excel.
 bool HasRoom(ChartPart& part, const Source& source) {
   constexpr std::int64_t kReferences =
       std::int64_t{3} * 255;  // 3 for each of the 255 series that Excel allows
@@ -182,7 +182,7 @@ std::string SeriesName(ChartPart& part, pugi::xml_node series) {
 
 std::string ShownName(ChartPart& part, pugi::xml_node series) {
   if (xml::Child(series, "tx")) return SeriesName(part, series);
-  // The number is the index of the series, not its position in the file.
+  // The number comes from the index of the series, not from its position in the file.
   return "Series" + std::to_string(schema::IntegerVal(series, "idx", 0) + 1);
 }
 

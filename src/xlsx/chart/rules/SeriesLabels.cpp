@@ -34,8 +34,8 @@ constexpr std::array<const char*, 6> kShown = {"showLegendKey", "showVal",     "
 /// Elements of a series' labels that the file repeats in each point's label.
 constexpr std::array<const char*, 5> kRepeated = {"numFmt", "spPr", "txPr", "dLblPos", "separator"};
 
-/// The labels that the series of a group have in common, or a null node. They follow the series, so the
-/// search begins at the end: from the front it would pass all series for each of them.
+/// Returns the labels that the series of a group have in common, or a null node. Their element comes after
+/// the series, so the search begins at the end. From the front, each search would pass all series.
 pugi::xml_node CommonLabels(pugi::xml_node group) {
   for (pugi::xml_node child = group.last_child(); child; child = child.previous_sibling()) {
     if (xml::Is(child, "dLbls")) return child;

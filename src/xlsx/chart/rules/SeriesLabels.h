@@ -22,14 +22,14 @@ bool ShowsAnything(pugi::xml_node labels);
 bool HasLabels(pugi::xml_node labels);
 
 /// The content of labels, as a member of XlDataLabelsType; Null if there is no such member. Labels that show
-/// several things count by their value, otherwise by their percentage, because only these two can be drawn
-/// again.
+/// the value count as xlDataLabelsShowValue, whatever else they show. The series name and the legend key are
+/// ignored.
 runtime::Variant TypeOfLabels(pugi::xml_node labels);
 /// Makes the labels show the content of a member of XlDataLabelsType; returns false if there is no such
 /// member.
 bool ShowLabels(pugi::xml_node labels, std::int32_t type);
-/// If `shown` is true, gives a series without labels labels with its values. If `shown` is false, removes the
-/// labels of the series, and hides labels that its group has for all series.
+/// If `shown` is true and the series has no labels, adds labels that show its values. If `shown` is false,
+/// removes the labels of the series, and hides labels that its group has for all series.
 void SetLabels(pugi::xml_node series, bool shown);
 
 }  // namespace plotsmith::xlsx
