@@ -120,7 +120,7 @@ Section TextsAndLook() {
                               Persist("legend-font-style", "Italic")));
   add("comment", "a comment box, whose text the definition repeats", "",
       "<comment>North has caught up.</comment>", "North has caught up.");
-  section.pictures.push_back({"unavailable", "a chart without a filling whose table is gone",
+  section.pictures.push_back({"unavailable", "a chart without a fill whose table is gone",
                               "table-id=\"Gone\" type=\"column\" title=\"Revenue\"", kByQuarter,
                               "table-id=\"Gone\"", ""});
   return section;

@@ -45,7 +45,7 @@ void Canvas::AddPictures(Tag tag, const Path& path, const PictureFill& fill) {
   for (double top = bounds.top; top < bounds.Bottom(); top += height) {
     for (double left = bounds.left; left < bounds.Right(); left += width) {
       if (fill.bytes->size() > pictureBytesLeft_) {
-        Note("The chart has more pictures as fillings than are drawn; the rest is left out.");
+        Note("The chart has more picture fills than are drawn; the rest is left out.");
         return PopClip();
       }
       pictureBytesLeft_ -= fill.bytes->size();

@@ -119,7 +119,7 @@ TEST_F(DrawingTest, BarsBelowZeroAreInvertedIfTheFileSaysSo) {
   struct {
     const char* what;
     S group, series, behind;
-    Texts fills;  // The fillings for the values 4, -3 and -1.
+    Texts fills;  // The fills for the values 4, -3 and -1.
   } cases[] = {
       {"as it is", "", solid("FF0000") + keep, "", {"#FF0000", "#FF0000", "#FF0000"}},
       {"white", "", solid("FF0000") + invert, "", {"#FF0000", "#FFFFFF", "#FFFFFF"}},

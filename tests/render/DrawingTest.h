@@ -81,7 +81,7 @@ std::vector<Rect> BoxesOf(const Drawing& drawing, Role role, int series = 0);
 Texts TextsOf(const Drawing& drawing, Role role, int series = 0);
 /// Returns the rectangle around these items.
 Rect BoxOf(const Drawing& drawing, Role role, int series = 0);
-/// Returns the solid filling of a path as "#RRGGBB", or "none".
+/// Returns the solid fill of a path as "#RRGGBB", or "none".
 S FillOf(const Item& item);
 
 /// Returns the errors of a drawing, one per line: text outside the chart, overlapping tick labels, invalid

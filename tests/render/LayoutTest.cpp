@@ -236,7 +236,7 @@ TEST_F(LayoutTest, AWordThatIsWiderThanItsLineBreaksInside) {
   }
 }
 
-TEST_F(LayoutTest, DarkStylesHaveTheirFillingsAndTexts) {
+TEST_F(LayoutTest, DarkStylesHaveTheirFillsAndTexts) {
   const auto newer = [](const S& number) {
     return "<mc:AlternateContent xmlns:mc=\"http://schemas.openxmlformats.org/markup-compatibility/2006\">"
            "<mc:Choice Requires=\"c14\" "
@@ -264,7 +264,7 @@ TEST_F(LayoutTest, DarkStylesHaveTheirFillingsAndTexts) {
   }
 }
 
-TEST_F(LayoutTest, PicturesAsFillingsAreStretchedOrTiledInsideOfTheirShapes) {
+TEST_F(LayoutTest, PicturesAsFillsAreStretchedOrTiledInsideOfTheirShapes) {
   Drawing red{8, 4, "", "", {}};
   red.items.push_back(
       {{}, PathItem{render::Path().AddRect({0, 0, 8, 4}), render::SolidFill{{255, 0, 0, 1}}, {}}});
@@ -282,7 +282,7 @@ TEST_F(LayoutTest, PicturesAsFillingsAreStretchedOrTiledInsideOfTheirShapes) {
        "GIF89a",
        "",
        0,
-       {"A picture isn't drawn as a filling because it isn't PNG or is too large; the automatic colour "
+       {"A picture isn't drawn as a fill because it isn't PNG or is too large; the automatic colour "
         "replaces it."}},
   };
   for (const auto& test : cases) {
@@ -319,7 +319,7 @@ TEST_F(LayoutTest, OnlyPicturesAndShapesOnAChartNeedTheWorkbookToBeDrawn) {
     S series, behind;
     bool needs;
   } cases[] = {{"nothing", "", "", false},
-               {"a solid filling", "<c:spPr><a:solidFill/></c:spPr>", "", false},
+               {"a solid fill", "<c:spPr><a:solidFill/></c:spPr>", "", false},
                // The relationships don't exist, so their types can't decide.
                {"a picture", picture, "", true},
                {"shapes", "", "<c:userShapes" + named + " r:id=\"rId7\"/>", true}};
@@ -339,7 +339,7 @@ TEST_F(LayoutTest, ATitleWithoutACacheHasTheTextOfItsCell) {
   EXPECT_NE(drawing.title, "");
 }
 
-TEST_F(LayoutTest, FillingsAndLinesAreTheChartParts) {
+TEST_F(LayoutTest, FillsAndLinesAreTheChartParts) {
   const S look =
       "<c:spPr><a:solidFill><a:srgbClr val=\"00B050\"><a:alpha val=\"50000\"/></a:srgbClr>"
       "</a:solidFill><a:ln w=\"25400\" cap=\"rnd\"><a:solidFill><a:schemeClr val=\"accent2\"/>"

@@ -144,7 +144,7 @@ TEST(CellLinesTest, NumbersThatDontFitLoseDecimalsOrAreMarks) {
     EXPECT_EQ(FittedNumber(c.number, c.text, c.general, c.width, CountedWidth), c.fitted) << c.text;
 }
 
-/// Tests the pages of a sheet in a workbook with these styles: bold (1), a red filling and a line below (2),
+/// Tests the pages of a sheet in a workbook with these styles: bold (1), a red fill and a line below (2),
 /// wrapped (3), centred (4), a number format (5), at the top (6), in the middle (7), right (8), indented on
 /// the left (9) and on the right (10), struck (11), wrapped in the middle (12), centred across (13), filled
 /// with text (14).
@@ -181,7 +181,7 @@ class SheetPagesTest : public DrawingTest {
   S workbookExtra_;
 };
 
-TEST_F(SheetPagesTest, CellsHaveTheirTextsFillingsAndBorders) {
+TEST_F(SheetPagesTest, CellsHaveTheirTextsFillsAndBorders) {
   PlainSheet sheet{.name = "Sheet1"};
   sheet.rows = {
       {Cell(1, "Bold"), 12.0}, {Cell(2, "Red")}, {Cell(4, "Mid"), std::monostate(), S("right of it")}};

@@ -17,7 +17,7 @@ using PlainRow = std::vector<PlainCell>;
 /// The frame of a chart on a sheet, as another program leaves it for Plotsmith.
 struct PlainFrame {
   std::string alternativeText;
-  std::string chartXml;  ///< The chart part. If empty, the chart is empty and has no filling.
+  std::string chartXml;  ///< The chart part. If empty, the chart is empty and has no fill.
   int column = 0, row = 0, width = 8, height = 18;  ///< In cells, from 0.
 };
 

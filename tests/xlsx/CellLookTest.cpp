@@ -24,7 +24,7 @@ TEST(CellLookTest, BordersHaveWidthAndColor) {
   EXPECT_EQ(look.bottom, (BorderLine{2, std::nullopt}));
 }
 
-TEST(CellLookTest, FontFillingAndAlignmentComeFromTheStyle) {
+TEST(CellLookTest, FontFillAndAlignmentComeFromTheStyle) {
   const struct {
     const char *font, *fill;
     const char* style;  ///< Attributes and contents of xf.

@@ -23,7 +23,7 @@ class CellPainter {
   /// Returns the background colour of a cell: the colour of its fill, or the colour of the window.
   QColor Background(const ShownCell& cell);
   /// Returns true if the cell has a fill.
-  bool HasFilling(const ShownCell& cell) { return source_.LookOf(cell.style).fillColor.has_value(); }
+  bool HasFill(const ShownCell& cell) { return source_.LookOf(cell.style).fillColor.has_value(); }
 
   /// Returns the horizontal alignment of a cell's text: Qt::AlignLeft, AlignRight or AlignHCenter.
   Qt::Alignment SideOf(const ShownCell& cell);

@@ -131,7 +131,7 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   PaneCells CellsOf(const Pane& pane);
   void PaintPane(QPainter& painter, const Pane& pane, CellPainter& cellPainter);
   void PaintGridLines(QPainter& painter, const Pane& pane, const PaneCells& shown);
-  void PaintFillings(QPainter& painter, const Pane& pane, const PaneCells& shown, CellPainter& cellPainter);
+  void PaintFills(QPainter& painter, const Pane& pane, const PaneCells& shown, CellPainter& cellPainter);
   void PaintTexts(QPainter& painter, const Pane& pane, const PaneCells& shown, CellPainter& cellPainter);
   void PaintText(QPainter& painter, const Pane& pane, const PaneCells& shown, std::size_t row,
                  std::size_t column, CellPainter& cellPainter);

@@ -82,7 +82,7 @@ SheetView::PaneCells SheetView::CellsOf(const Pane& pane) {
 void SheetView::PaintPane(QPainter& painter, const Pane& pane, CellPainter& cellPainter) {
   const PaneCells shown = CellsOf(pane);
   if (view_.gridLines) PaintGridLines(painter, pane, shown);
-  PaintFillings(painter, pane, shown, cellPainter);
+  PaintFills(painter, pane, shown, cellPainter);
   PaintTexts(painter, pane, shown, cellPainter);
   PaintMerged(painter, pane, shown, cellPainter);
   PaintBorders(painter, pane, shown);
@@ -107,12 +107,12 @@ void SheetView::PaintGridLines(QPainter& painter, const Pane& pane, const PaneCe
 }
 
 /// Paints the fills, which cover the gridlines around their cells.
-void SheetView::PaintFillings(QPainter& painter, const Pane& pane, const PaneCells& shown,
-                              CellPainter& cellPainter) {
+void SheetView::PaintFills(QPainter& painter, const Pane& pane, const PaneCells& shown,
+                           CellPainter& cellPainter) {
   for (std::size_t row = 0; row < shown.rows.size(); ++row) {
     for (std::size_t column = 0; column < shown.columns.size(); ++column) {
       const ShownCell& cell = shown.At(row, column);
-      if (!cellPainter.HasFilling(cell)) continue;
+      if (!cellPainter.HasFill(cell)) continue;
       const QRect area = AreaOf(shown.rows[row], shown.columns[column]).translated(pane.origin);
       painter.fillRect(area.adjusted(-1, -1, 0, 0), cellPainter.Background(cell));
     }
@@ -203,7 +203,7 @@ void SheetView::PaintMerged(QPainter& painter, const Pane& pane, const PaneCells
   for (const CellRange& range : shown.merged) {
     const QRect area = PlaceOf(range).translated(pane.origin);
     const ShownCell cell = source_.CellAt(range.row1, range.column1);
-    const bool filled = cellPainter.HasFilling(cell) || !view_.gridLines;
+    const bool filled = cellPainter.HasFill(cell) || !view_.gridLines;
     painter.fillRect(filled ? area.adjusted(-1, -1, 0, 0) : area.adjusted(0, 0, -1, -1),
                      cellPainter.Background(cell));
     cellPainter.Paint(painter, cell, area);

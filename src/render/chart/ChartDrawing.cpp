@@ -86,7 +86,7 @@ void NoteMissingLooks(Canvas& canvas, xlsx::ChartPart& part, const RareLooks& lo
   const auto isMissing = [&](pugi::xml_node node) { return !IsDrawableImage(Palette(part).Picture(node)); };
   if (std::any_of(looks.pictures.begin(), looks.pictures.end(), isMissing)) {
     canvas.Note(
-        "A picture isn't drawn as a filling because it isn't PNG or is too large; the automatic colour "
+        "A picture isn't drawn as a fill because it isn't PNG or is too large; the automatic colour "
         "replaces it.");
   }
   for (std::string& sentence : MissingEffects(looks)) canvas.Note(std::move(sentence));

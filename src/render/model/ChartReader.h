@@ -68,8 +68,8 @@ void FindVisibleTrendlines(ChartModel& chart);
 void AddTrendlineEntries(ReadingContext& context, ChartModel& chart);
 /// Replaces the entries of the legend by those of the bands, if the chart has surfaces.
 void AddBandEntries(ReadingContext& context, ChartModel& chart);
-/// Reads the dates of the categories of a group (c:cat) and sets `axis.dates`. If the categories aren't dates,
-/// the axis doesn't change.
+/// Reads the dates of the categories of a group (c:cat) and sets `axis.dates`. If the categories aren't
+/// dates, the axis doesn't change.
 void ReadDates(ReadingContext& context, const GroupModel& group, AxisModel& axis);
 
 /// Reads the numbers of a series (c:val, c:xVal and the like), one for each point. A missing number is NaN.

@@ -103,7 +103,7 @@ class CellDrawing {
     }
   }
 
-  void DrawFillings() {
+  void DrawFills() {
     ForEachCell([&](std::int32_t row, std::int32_t column) {
       const auto& fill = sheet_.LookAt(row, column).fillColor;
       if (!fill || IsMerged(row, column)) return;
@@ -331,7 +331,7 @@ std::int32_t LastColumnOfText(SheetReader& sheet, std::int32_t row, std::int32_t
 
 void DrawCells(SheetReader& sheet, const CellRange& page, bool gridLines, Canvas& canvas) {
   CellDrawing drawing(sheet, page, canvas);
-  drawing.DrawFillings();
+  drawing.DrawFills();
   if (gridLines) drawing.DrawGridLines();
   drawing.DrawTexts();
   drawing.DrawBorders();

@@ -32,7 +32,7 @@ class BookTest : public HostTest {
   std::unique_ptr<qtbook::BookView> view_;
 };
 
-/// Returns styles, numbered from 1: a filling of FFEE00; centred; bold and right-aligned; a date; wrapped;
+/// Returns styles, numbered from 1: a fill of FFEE00; centred; bold and right-aligned; a date; wrapped;
 /// white text; a line below.
 std::string SomeStyles();
 

@@ -297,11 +297,11 @@ TEST_F(SheetViewTest, ColorsComeFromThePaletteAndTheWorkbook) {
     return std::tuple(shot.pixelColor(Sheet().CellArea({9, 9}).center()), shot.pixelColor(head),
                       shot.pixelColor(Sheet().CellArea({1, 2}).topLeft() + QPoint(3, 3)), share);
   };
-  const QColor filling(0xFF, 0xEE, 0x00);
+  const QColor fill(0xFF, 0xEE, 0x00);
   const auto [cell, head, filled, bright] = colors();
   EXPECT_EQ(cell, light.color(QPalette::Base));
   EXPECT_EQ(head, light.color(QPalette::Button));
-  EXPECT_EQ(filled, filling);
+  EXPECT_EQ(filled, fill);
   const QRect bordered = Sheet().CellArea({1, 4});
   EXPECT_EQ(Shot().pixelColor(bordered.center().x(), bordered.bottom()), light.color(QPalette::Text));
   EXPECT_EQ(SideOfInk({1, 3}), "left");  // White on white would be invisible.
@@ -310,9 +310,9 @@ TEST_F(SheetViewTest, ColorsComeFromThePaletteAndTheWorkbook) {
   const auto [darkCell, darkHead, darkFilled, darkBright] = colors();
   EXPECT_EQ(darkCell, dark.color(QPalette::Base));
   EXPECT_EQ(darkHead, dark.color(QPalette::Button));
-  EXPECT_EQ(darkFilled, filling);
-  EXPECT_EQ(SideOfInk({1, 2}), "right");  // A light text on the filling would also be invisible.
-  // Only texts and the filling are bright.
+  EXPECT_EQ(darkFilled, fill);
+  EXPECT_EQ(SideOfInk({1, 2}), "right");  // A light text on the fill would also be invisible.
+  // Only texts and the fill are bright.
   EXPECT_GT(bright, 0.9);
   EXPECT_LT(darkBright, 0.1);
 }

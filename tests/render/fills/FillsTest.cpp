@@ -96,7 +96,7 @@ TEST(FillsTest, SvgSharesWhatIsFilledAlike) {
       "stop-color=\"#00F\" stop-opacity=\".5\"/></linearGradient></defs>\n");
 }
 
-/// Returns the colours of a filling: the stops of a gradient, or the foreground and the background.
+/// Returns the colours of a fill: the stops of a gradient, or the foreground and the background.
 std::vector<Color> ColorsOf(const Fill& fill) {
   if (const auto* solid = std::get_if<SolidFill>(&fill)) return {solid->color};
   if (const auto* pattern = std::get_if<PatternFill>(&fill))
@@ -121,7 +121,7 @@ TEST(FillsTest, ABallIsLitFromTheUpperLeft) {
   EXPECT_TRUE(std::holds_alternative<std::monostate>(AsBall({})));
 }
 
-TEST(FillsTest, LightChangesEachColourOfAFilling) {
+TEST(FillsTest, LightChangesEachColourOfAFill) {
   const Color dim{100, 50, 0, 0.5}, bright{200, 100, 0, 0.5}, grey{200, 200, 200, 1}, white{255, 255, 255, 1};
   const Color none{255, 255, 255, 0};
   GradientFill gradient;

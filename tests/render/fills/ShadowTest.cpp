@@ -9,7 +9,7 @@ namespace {
 using namespace test;
 using render::ShadowItem;
 
-/// Shape properties with a red filling and a shadow. Lengths are EMU, angles 1/60000 degree.
+/// Shape properties with a red fill and a shadow. Lengths are EMU, angles 1/60000 degree.
 S ShadowedXml(const S& attributes, const S& alpha = "40000") {
   return "<c:spPr><a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill><a:effectLst><a:outerShdw " +
          attributes + "><a:srgbClr val=\"112233\"><a:alpha val=\"" + alpha +

@@ -47,7 +47,7 @@ TEST_P(PortContract, Charts) {
        "error 1004: Unable to set the Color property of the Border class");
 }
 
-TEST_P(PortContract, Fillings) {
+TEST_P(PortContract, Fills) {
   const auto interior = Chart()->PlotArea()->Interior();
   SAYS(interior->SetColor(0x0000FF), "done");
   SAYS(interior->Color(), "255");

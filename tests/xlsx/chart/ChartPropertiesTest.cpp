@@ -95,7 +95,7 @@ TEST_F(ChartPropertiesTest, PropertiesOfSeriesLabelsAndAxesAreWrittenInPlace) {
        "<a:pattFill prst=\"ltUpDiag\"><a:fgClr><a:srgbClr val=\"0000FF\"/></a:fgClr><a:bgClr><a:srgbClr "
        "val=\"FF0000\"/></a:bgClr></a:pattFill>",
        ""},
-      {"an automatic index removes the filling and keeps the outline", 51,
+      {"an automatic index removes the fill and keeps the outline", 51,
        [](Chart&, Series& s) {
          s.Border()->SetColor(0);
          s.Interior()->SetColor(0xFF);

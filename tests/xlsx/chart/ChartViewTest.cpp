@@ -125,11 +125,11 @@ TEST_F(ChartViewTest, SettersPutElementsWhereTheSchemaWantsThem) {
       {"the labels of an axis follow the data", Part(columns),
        [](Chart& c) { c.Axes(2, 1)->TickLabels()->SetNumberFormatLinked(true); },
        "<c:axPos val=\"l\"/><c:numFmt formatCode=\"General\" sourceLinked=\"1\"/><c:crossAx", ""},
-      {"a filling replaces another",
+      {"a fill replaces another",
        Part(columns, "<c:spPr><a:gradFill><a:gsLst/></a:gradFill><a:ln w=\"1\"/></c:spPr><c:txPr/>"),
        [](Chart& c) { c.ChartArea()->Interior()->SetColorIndex(3); },
        "<c:spPr><a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill><a:ln w=\"1\"/></c:spPr>", "gradFill"},
-      {"a plot area without filling and line", Part(columns),
+      {"a plot area without fill and line", Part(columns),
        [](Chart& c) {
          c.PlotArea()->Interior()->SetColorIndex(-4142);
          c.PlotArea()->Border()->SetLineStyle(0);

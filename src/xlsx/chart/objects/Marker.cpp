@@ -25,7 +25,7 @@ bool IsValid(MarkerProperty which, std::int32_t value) {
     case MarkerProperty::kSize:
       return value >= kLeastSize && value <= kGreatestSize;
     case MarkerProperty::kOutline:
-    case MarkerProperty::kFilling:
+    case MarkerProperty::kFill:
       break;
   }
   return IsColor(value);
@@ -40,7 +40,7 @@ bool SetMarker(pugi::xml_node series, MarkerProperty which, std::int32_t value) 
     case MarkerProperty::kOutline:
       SetFillColor(SetFill(schema::Ensure(marker, "spPr", "ln"), "solidFill"), value);
       break;
-    case MarkerProperty::kFilling:
+    case MarkerProperty::kFill:
       SetFillColor(SetFill(schema::Ensure(marker, "spPr"), "solidFill"), value);
       break;
     case MarkerProperty::kStyle:

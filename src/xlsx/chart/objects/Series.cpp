@@ -94,7 +94,7 @@ class SeriesObject final : public excel::Series {
     SetMarker(MarkerProperty::kOutline, "MarkerForegroundColor", color);
   }
   void SetMarkerBackgroundColor(std::int32_t color) override {
-    SetMarker(MarkerProperty::kFilling, "MarkerBackgroundColor", color);
+    SetMarker(MarkerProperty::kFill, "MarkerBackgroundColor", color);
   }
   void SetMarkerStyle(std::int32_t style) override {
     SetMarker(MarkerProperty::kStyle, "MarkerStyle", style);
