@@ -429,6 +429,24 @@ TEST_F(AxesTest, DateAxesShowTheDatesBetweenTheirBounds) {
             (render::Notes{"A date axis in 3-D shows all dates; its minimum and its maximum aren't used."}));
 }
 
+TEST_F(AxesTest, LinesComeFromDatesOutsideOfTheBounds) {
+  const S dates = NumbersXml("cat", {45292, 45293, 45294, 1, 2958465}, "m-d");
+  for (const S cross : {"between", "midCat"}) {
+    for (const int last : {45292, 45293}) {
+      const S bounds = ScalingXml("45292", std::to_string(last));
+      const Drawing drawing = Draw(PlotXml(LinesXml(SeriesXml(0, {1, 2, 3, 4, 5}, "", "", dates)) +
+                                           DateAxesXml(bounds, "<c:crossBetween val=\"" + cross + "\"/>")));
+      const Rect plot = BoxOf(drawing, Role::kPlotArea);
+      const auto lines = ItemsOf(drawing, Role::kLine);
+      ASSERT_EQ(lines.size(), 1u) << cross << last;
+      std::vector<int> sides;  // -1 is before the plot area, 1 is behind it
+      for (const auto& step : std::get<PathItem>(lines[0].content).path.Steps())
+        sides.push_back(step.to.x < plot.left - 1 ? -1 : step.to.x > plot.Right() + 1 ? 1 : 0);
+      EXPECT_EQ(sides, (std::vector<int>{-1, 0, last > 45292 ? 0 : 1, 1, 1})) << cross << last;
+    }
+  }
+}
+
 TEST_F(AxesTest, LinesAndAreasGoFromDateToDate) {
   const S dates = NumbersXml("cat", {45292, 45296, 45294}, "m-d");
   struct {

@@ -38,7 +38,8 @@ double AxisMap::OfCategory(double index) const {
   if (!axis_.dates) return OfSlot(index);
   const auto& positions = axis_.dates->positions;
   const auto number = static_cast<std::size_t>(std::max(index, 0.0));
-  return OfSlot(number < positions.size() ? positions[number] : index);
+  // A date far outside of the axis is moved nearer, so that the line from it to the next date is drawn.
+  return std::clamp(OfSlot(number < positions.size() ? positions[number] : index), -kFarthest, kFarthest);
 }
 
 double AxisMap::OfX(double x) const {
@@ -49,7 +50,8 @@ double AxisMap::OfX(double x) const {
 
 double AxisMap::OfSlot(double index) const {
   if (axis_.crossesBetween) return low_ + (index + 0.5) / slots_ * (high_ - low_);
-  return slots_ < 2 ? (low_ + high_) / 2 : low_ + index / (slots_ - 1) * (high_ - low_);
+  if (slots_ < 2) return (low_ + high_) / 2 + index * (high_ - low_);  // a slot is as long as the axis
+  return low_ + index / (slots_ - 1) * (high_ - low_);
 }
 
 double AxisMap::CategoryWidth() const {
