@@ -143,7 +143,7 @@ class Printer {
   std::size_t nameWidth_ = 0;
 };
 
-Json StateOf(const ControlState& control) {
+Json JsonOf(const ControlState& control) {
   Json json = {{"name", control.name},           {"kind", control.kind},
                {"container", control.container}, {"accessibleName", control.accessibleName},
                {"enabled", control.enabled},     {"visible", control.visible},
@@ -172,7 +172,7 @@ void PrintForm(std::ostream& out, const FormState& form) { Printer(out, form).Pr
 
 void PrintFormAsJson(std::ostream& out, const FormState& form) {
   Json controls = Json::array();
-  for (const ControlState& control : form.controls) controls.push_back(StateOf(control));
+  for (const ControlState& control : form.controls) controls.push_back(JsonOf(control));
   const Json json = {{"name", form.name}, {"caption", form.caption}, {"controls", controls}};
   out << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
 }

@@ -21,7 +21,7 @@ class ChartLegendTest : public test::ChartCallsTest {
   static Lines ShapeCalls(const Lines& calls) {
     const S path = R"re(^.*?\.Shapes(\.Range)?(\((Array\()?("[^"]*"(, )?)*\)?\))?\.)re";
     Lines found;
-    for (const S& line : With(calls, ".Shapes")) found.push_back(test::WithMatches(line, path, ""));
+    for (const S& line : With(calls, ".Shapes")) found.push_back(test::ReplaceMatches(line, path, ""));
     return found;
   }
   /// Returns the texts of the drawn entries.

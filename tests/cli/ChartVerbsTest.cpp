@@ -123,9 +123,9 @@ TEST_F(ChartVerbsTest, ModifyChangesOnlyTheGivenSettings) {
     arguments.insert(arguments.end(), options.begin(), options.end());
     const CommandResult result = Verb(arguments);
     EXPECT_EQ(result.code, 0) << result.err;
-    return test::WithMatches(Definition(out_, "VEX_Chart1"),
-                             " worksheet-column-number=\"[0-9]\"|<auto-persistence>.*</auto-persistence>",
-                             "");
+    return test::ReplaceMatches(Definition(out_, "VEX_Chart1"),
+                                " worksheet-column-number=\"[0-9]\"|<auto-persistence>.*</auto-persistence>",
+                                "");
   };
   const S rows = "<categories headings-in=\"rows\"><column name=\"Region\"/></categories>",
           series = "<series headings-in=\"rows\"><column name=\"Product\"/></series>",
@@ -272,7 +272,7 @@ TEST_F(ChartVerbsTest, AmbiguousRowsAreSelectedByNumber) {
     EXPECT_EQ(RunCommand({"modify", book_, chart, "--name", name}).code, 0) << name;
   const auto selected = [&](const S& chart) {
     const S script = RunCommand({"delete", book_, chart, "--print-script"}).out;
-    return test::WithMatches(script, "(.|\n)*(select .*)\nanswer(.|\n)*", "$2");
+    return test::ReplaceMatches(script, "(.|\n)*(select .*)\nanswer(.|\n)*", "$2");
   };
   EXPECT_EQ(selected("VEX_Chart2"), "select grdCharts #1");
   EXPECT_EQ(selected("VEX_Chart1"), "select grdCharts #2");

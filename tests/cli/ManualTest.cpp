@@ -23,7 +23,7 @@ using S = std::string;
 
 /// Returns the page as a reader sees it, without markup.
 S Unmarked(const S& page) {
-  const S text = test::WithMatches(page, R"(\\f[BIR])", "");
+  const S text = test::ReplaceMatches(page, R"(\\f[BIR])", "");
   return runtime::Replace(runtime::Replace(text, R"(\-)", "-"), R"(\(aq)", "'");
 }
 

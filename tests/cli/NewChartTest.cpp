@@ -88,21 +88,22 @@ class NewChartTest : public test::WizardVerbsTest {
   /// Returns the rows of the only chart on the data sheet, without its id.
   static S Block(const S& book) {
     const S cells = RunCommand({"cells", book, "VEX_ChartData!A1:F9"}).out;
-    return test::WithMatches(test::WithMatches(cells, "VEX_Chart1|\t+(?=\n)", ""), "\n+$", "\n");
+    return test::ReplaceMatches(test::ReplaceMatches(cells, "VEX_Chart1|\t+(?=\n)", ""), "\n+$", "\n");
   }
   /// Returns the definition without the parts that a load reads from the chart or that a refresh copies from
   /// the table.
   static S Written(const S& book) {
-    return test::WithMatches(Definition(book, "VEX_Chart1"),
-                             " (table-top-row|table-left-column|table-height|header-row-count|data-start-row|"
-                             "worksheet-column-number|bucket-[a-z]+-column-position)=\"[0-9]+\"|"
-                             "<auto-persistence>.*</auto-persistence>",
-                             "");
+    return test::ReplaceMatches(
+        Definition(book, "VEX_Chart1"),
+        " (table-top-row|table-left-column|table-height|header-row-count|data-start-row|"
+        "worksheet-column-number|bucket-[a-z]+-column-position)=\"[0-9]+\"|"
+        "<auto-persistence>.*</auto-persistence>",
+        "");
   }
   /// Returns the part of the only chart, without its legend.
   static S ChartPart(const S& book) {
     const S part = xlsx::Package::Open(book).Read("/xl/charts/chart1.xml");
-    return test::WithMatches(part, "<c:legend>.*</c:legend>", "");
+    return test::ReplaceMatches(part, "<c:legend>.*</c:legend>", "");
   }
 };
 

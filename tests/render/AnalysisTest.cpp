@@ -557,64 +557,6 @@ TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
   }
 }
 
-TEST_F(AnalysisTest, SeriesLinesJoinTheEndsOfStackedBars) {
-  for (const char* direction : {"col", "bar"}) {
-    for (const char* grouping : {"clustered", "stacked", "percentStacked"}) {
-      for (const bool reversed : {false, true}) {
-        SCOPED_TRACE(S(direction) + " " + grouping + (reversed ? " reversed" : ""));
-        const bool isUpright = direction == S("col");
-        const S category = reversed ? "<c:scaling><c:orientation val=\"maxMin\"/></c:scaling>" : "";
-        const Drawing drawing =
-            Draw(PlotXml(ColumnsXml(SeriesXml(0, {1, 2, 3, kNoValue}) + SeriesXml(1, {1, -2, 1, 4}),
-                                    "<c:overlap val=\"100\"/><c:serLines/>", grouping, direction) +
-                         AxesXml(category, "", !isUpright)));
-        EXPECT_EQ(notes_, render::Notes());
-        const auto lines = ItemsOf(drawing, Role::kSeriesLine);
-        if (grouping == S("clustered")) {
-          EXPECT_EQ(lines.size(), 0u);
-          continue;
-        }
-        std::vector<std::pair<int, int>> numbers;
-        for (const Item& line : lines) {
-          numbers.emplace_back(line.tag.series, line.tag.point);
-          const auto& steps = std::get<PathItem>(line.content).path.Steps();
-          const auto barOf = [&](int point) {
-            for (const Item& item : ItemsOf(drawing, Role::kBar)) {
-              if (item.tag.series == line.tag.series && item.tag.point == point)
-                return render::BoundsOf(item);
-            }
-            return Rect{};
-          };
-          const Rect before = barOf(line.tag.point - 1), after = barOf(line.tag.point);
-          const bool isBelow = line.tag.series == 2 && line.tag.point == 2,
-                     wasBelow = line.tag.series == 2 && line.tag.point == 3;
-          const Point from = steps[0].to, to = steps[1].to;
-          if (isUpright) {
-            EXPECT_NEAR(from.x, reversed ? before.left : before.Right(), 1e-6);
-            EXPECT_NEAR(to.x, reversed ? after.Right() : after.left, 1e-6);
-            EXPECT_NEAR(from.y, wasBelow ? before.Bottom() : before.top, 1e-6);
-            EXPECT_NEAR(to.y, isBelow ? after.Bottom() : after.top, 1e-6);
-          } else {
-            EXPECT_NEAR(from.y, reversed ? before.Bottom() : before.top, 1e-6);
-            EXPECT_NEAR(to.y, reversed ? after.top : after.Bottom(), 1e-6);
-            EXPECT_NEAR(from.x, wasBelow ? before.left : before.Right(), 1e-6);
-            EXPECT_NEAR(to.x, isBelow ? after.left : after.Right(), 1e-6);
-          }
-        }
-        EXPECT_EQ(numbers, (std::vector<std::pair<int, int>>{{1, 2}, {1, 3}, {2, 2}, {2, 3}, {2, 4}}));
-      }
-    }
-  }
-}
-
-TEST_F(AnalysisTest, SeriesLinesOfThinBarsAreReported) {
-  const Drawing drawing = Draw(
-      PlotXml(ColumnsXml(SeriesXml(0, Numbers(2000, 1)), "<c:overlap val=\"100\"/><c:serLines/>", "stacked") +
-              AxesXml()));
-  EXPECT_EQ(ItemsOf(drawing, Role::kSeriesLine).size(), 0u);
-  EXPECT_EQ(notes_, render::Notes{"Series lines between bars that are thinner than a pixel aren't drawn."});
-}
-
 TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
   S trends;
   for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");

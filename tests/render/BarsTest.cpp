@@ -180,5 +180,61 @@ INSTANTIATE_TEST_SUITE_P(Kinds, BarsTest,
                                                    "<c:scaling><c:orientation val=\"maxMin\"/></c:scaling>"}),
                          [](const auto& each) { return S(each.param.name); });
 
+using SeriesLinesTest = DrawingTest;
+
+TEST_F(SeriesLinesTest, JoinTheEndsOfStackedBars) {
+  for (const char* direction : {"col", "bar"}) {
+    for (const char* grouping : {"clustered", "stacked", "percentStacked"}) {
+      for (const bool reversed : {false, true}) {
+        SCOPED_TRACE(S(direction) + " " + grouping + (reversed ? " reversed" : ""));
+        const bool isUpright = direction == S("col");
+        const S category = reversed ? "<c:scaling><c:orientation val=\"maxMin\"/></c:scaling>" : "";
+        const Drawing drawing =
+            Draw(PlotXml(ColumnsXml(SeriesXml(0, {1, 2, 3, kNoValue}) + SeriesXml(1, {1, -2, 1, 4}),
+                                    "<c:overlap val=\"100\"/><c:serLines/>", grouping, direction) +
+                         AxesXml(category, "", !isUpright)));
+        EXPECT_EQ(notes_, render::Notes());
+        std::map<std::pair<int, int>, Rect> bars;
+        for (const Item& item : ItemsOf(drawing, Role::kBar))
+          bars[{item.tag.series, item.tag.point}] = render::BoundsOf(item);
+        // The end of a value below zero is at the other edge of its bar.
+        const auto endOf = [&](int series, int point) {
+          const Rect& bar = bars[{series, point}];
+          const bool isBelow = series == 2 && point == 2;
+          return isUpright ? (isBelow ? bar.Bottom() : bar.top) : (isBelow ? bar.left : bar.Right());
+        };
+        // The categories of horizontal bars go upwards, and those of columns to the right.
+        const auto edgeOf = [&](int series, int point, bool isUpper) {
+          const Rect& bar = bars[{series, point}];
+          return isUpright ? (isUpper ? bar.Right() : bar.left) : (isUpper ? bar.Bottom() : bar.top);
+        };
+        std::vector<std::pair<int, int>> numbers;
+        for (const Item& line : ItemsOf(drawing, Role::kSeriesLine)) {
+          const int series = line.tag.series, point = line.tag.point;
+          numbers.emplace_back(series, point);
+          const auto& steps = std::get<PathItem>(line.content).path.Steps();
+          const bool isUpper = isUpright != reversed;
+          const Point from{edgeOf(series, point - 1, isUpper), endOf(series, point - 1)},
+              to{edgeOf(series, point, !isUpper), endOf(series, point)};
+          EXPECT_NEAR(isUpright ? steps[0].to.x : steps[0].to.y, from.x, 1e-6);
+          EXPECT_NEAR(isUpright ? steps[0].to.y : steps[0].to.x, from.y, 1e-6);
+          EXPECT_NEAR(isUpright ? steps[1].to.x : steps[1].to.y, to.x, 1e-6);
+          EXPECT_NEAR(isUpright ? steps[1].to.y : steps[1].to.x, to.y, 1e-6);
+        }
+        using Numbered = std::vector<std::pair<int, int>>;
+        EXPECT_EQ(numbers, grouping == S("clustered") ? Numbered{}
+                                                      : (Numbered{{1, 2}, {1, 3}, {2, 2}, {2, 3}, {2, 4}}));
+      }
+    }
+  }
+}
+
+TEST_F(SeriesLinesTest, OfThinBarsAreReported) {
+  const S bars =
+      ColumnsXml(SeriesXml(0, Numbers(2000, 1)), "<c:overlap val=\"100\"/><c:serLines/>", "stacked");
+  EXPECT_EQ(ItemsOf(Draw(PlotXml(bars + AxesXml())), Role::kSeriesLine).size(), 0u);
+  EXPECT_EQ(notes_, render::Notes{"Series lines between bars that are thinner than a pixel aren't drawn."});
+}
+
 }  // namespace
 }  // namespace plotsmith

@@ -40,7 +40,7 @@ S Words(const S& text) {
 
 /// Returns a message in the format of the help, with "NAME" in place of names.
 S WithoutNames(const S& message) {
-  return Words(test::WithMatches(message, "'(/TKN/|Data[0-9])'", "'NAME'"));
+  return Words(test::ReplaceMatches(message, "'(/TKN/|Data[0-9])'", "'NAME'"));
 }
 
 S TextOf(const pugi::xml_node& node) {
@@ -196,10 +196,10 @@ std::set<S> SentencesOf(const S& file) {
   const S comment = "//[^\n]*", literal = "(?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+", seam = "\"\\s*\"",
           lineBreak = R"(\\r\\n)";
   const S source =
-      test::WithMatches(test::BytesOf(fs::path(test::kSourceFolder) / "src" / file), comment, "");
+      test::ReplaceMatches(test::BytesOf(fs::path(test::kSourceFolder) / "src" / file), comment, "");
   std::set<S> sentences;
   for (const test::Match& match : test::MatchesOf(source, literal)) {
-    const S text = test::WithMatches(test::WithMatches(match[0], seam, ""), lineBreak, " ");
+    const S text = test::ReplaceMatches(test::ReplaceMatches(match[0], seam, ""), lineBreak, " ");
     const S sentence = WithoutNames(runtime::Replace(text, "\"", ""));
     if (std::ranges::count(sentence, ' ') >= 3) sentences.insert(sentence);
   }

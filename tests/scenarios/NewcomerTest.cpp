@@ -60,7 +60,7 @@ TEST_F(NewcomerTest, TheReadmesWorkbookIsRefreshed) {
     last = Shell(Replaced(line, "book.xlsx", folder_ / "book.xlsx"));
     if (line.find("write_book") == S::npos) continue;
     // The script writes the definition that the page shows above it.
-    const S definition = test::WithMatches(Block(readme_, "xml\n"), "\n *", "");
+    const S definition = test::ReplaceMatches(Block(readme_, "xml\n"), "\n *", "");
     EXPECT_EQ(Shell(S(test::kCommand) + " cells " + (folder_ / "book.xlsx") + " 'VEX_ChartDefinitions!A2'"),
               definition + "\n");
   }
@@ -92,7 +92,7 @@ TEST_F(NewcomerTest, TheDefinitionsOfThePageOfFormatsAreDrawn) {
     SCOPED_TRACE(type);
     const auto begin = page.rfind("<chart ", page.find("type=\"" + type + "\""));
     S definition = page.substr(begin, page.find("```", begin) - begin);
-    definition = test::WithMatches(definition, "id=\"VEX_Chart[0-9]\"", "id=\"VEX_Chart1\"");
+    definition = test::ReplaceMatches(definition, "id=\"VEX_Chart[0-9]\"", "id=\"VEX_Chart1\"");
     {
       const auto host = xlsx::Application::Create();
       host->Open((kRoot / "examples" / (example + ".xlsx")).string());

@@ -18,8 +18,8 @@ std::vector<Match> MatchesOf(const std::string& text, const std::string& express
   return matches;
 }
 
-std::string WithMatches(const std::string& text, const std::string& expression,
-                        const std::string& replacement) {
+std::string ReplaceMatches(const std::string& text, const std::string& expression,
+                           const std::string& replacement) {
   return std::regex_replace(text, std::regex(expression), replacement);
 }
 

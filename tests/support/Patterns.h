@@ -15,8 +15,8 @@ using Match = std::vector<std::string>;
 /// the syntax of ECMAScript. They are the only users of <regex>, which takes long to compile.
 std::vector<Match> MatchesOf(const std::string& text, const std::string& expression);
 /// Returns the text with each match replaced. `$1` in the replacement is the first group.
-std::string WithMatches(const std::string& text, const std::string& expression,
-                        const std::string& replacement);
+std::string ReplaceMatches(const std::string& text, const std::string& expression,
+                           const std::string& replacement);
 /// Returns true if the whole text matches.
 bool IsMatch(const std::string& text, const std::string& expression);
 

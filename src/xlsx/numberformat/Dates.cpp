@@ -255,8 +255,8 @@ std::uint32_t ZerosBehind(const std::vector<Token>& tokens, std::size_t index) {
   return zeros;
 }
 
-/// Decides the meaning of a decimal point. With zeros after it, it shows fractions of a second, whatever the
-/// token before it. Returns false if there are too many zeros.
+/// Decides the meaning of a decimal point. A point with zeros after it shows fractions of a second after any
+/// token. Returns false if there are too many zeros.
 bool SettlePoint(Section& section, Token& token, std::uint32_t zeros) {
   constexpr std::uint32_t kMostSubseconds = 3;
   if (zeros > kMostSubseconds) return false;

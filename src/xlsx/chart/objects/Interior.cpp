@@ -40,7 +40,8 @@ std::int32_t NearestIndex(const Styles& styles, std::int32_t color) {
 }
 
 /// The fill in Excel's older object model: a colour, and a pattern with a second colour. The system copies
-/// fills property by property. Whatever the order of the properties, the colour that was set last is visible.
+/// fills property by property. The colour that was set last is
+/// visible.
 class InteriorObject final : public excel::Interior {
  public:
   InteriorObject(FormattedElement element, std::function<std::int32_t()> automatic)

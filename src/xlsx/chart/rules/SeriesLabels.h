@@ -22,8 +22,8 @@ bool ShowsAnything(pugi::xml_node labels);
 bool HasLabels(pugi::xml_node labels);
 
 /// The content of labels, as a member of XlDataLabelsType; Null if there is no such member. Labels that show
-/// the value count as xlDataLabelsShowValue, whatever else they show. The series name and the legend key are
-/// ignored.
+/// the value count as xlDataLabelsShowValue, also if they show something else. The series name and the legend
+/// key are ignored.
 runtime::Variant TypeOfLabels(pugi::xml_node labels);
 /// Makes the labels show the content of a member of XlDataLabelsType; returns false if there is no such
 /// member.
