@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/render/TaskQueue.h"
+#include "runtime/Processors.h"
 
 namespace plotsmith {
 namespace {
@@ -73,6 +74,28 @@ TEST(TaskQueueTest, ReportsTheFirstFailureAndTheTasksBeforeIt) {
       EXPECT_EQ(doneBefore, bad);
       EXPECT_TRUE(tasks.HasFailed());
     }
+  }
+}
+
+TEST(TaskQueueTest, PreparesBeforeTheTasksOfItsThread) {
+  for (const int count : {0, 1, 2, 100}) {
+    std::vector<std::thread::id> prepared;
+    std::vector<std::thread::id> threads;
+    {
+      TaskQueue tasks(Order::kInTurn);
+      tasks.StartThreads([&] { prepared.push_back(std::this_thread::get_id()); });
+      for (int i = 0; i < count; ++i) {
+        tasks.Add([&] {
+          if (!prepared.empty()) threads.push_back(std::this_thread::get_id());
+        });
+      }
+      std::exception_ptr failure;
+      EXPECT_EQ(tasks.Finish(failure), static_cast<std::size_t>(count));
+    }
+    if (runtime::ProcessorCount() == 1) continue;  // There are no threads.
+    ASSERT_EQ(prepared.size(), 1u);
+    EXPECT_NE(prepared.front(), std::this_thread::get_id());
+    EXPECT_EQ(threads, std::vector(static_cast<std::size_t>(count), prepared.front()));
   }
 }
 

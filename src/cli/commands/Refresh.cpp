@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <map>
+#include <memory>
+#include <utility>
 
 #include "cli/Session.h"
 #include "cli/batch/Workers.h"
@@ -93,7 +95,8 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
     std::vector<ChartToDraw> charts;
     for (auto& [id, chart] : session.StartedCharts()) charts.push_back({id, chart});
     const bool list = !IsStandardOutput(run.output);
-    const auto drawn = WriteCharts(session.Book(), run.book, charts, PlanOfPictures(), streams, list);
+    auto writer = std::make_unique<PictureWriter>(PlanOfPictures(), streams, list);
+    const auto drawn = WriteCharts(session.Book(), run.book, charts, std::move(writer), streams);
     if (drawn.hasMessages && code == exit_code::kDone) code = exit_code::kDoneWithMessages;
   }
   if (session.ChartsStarted() > 0 || session.HasMessages()) return {code, counts};

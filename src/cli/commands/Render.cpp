@@ -1,13 +1,13 @@
 #include "cli/commands/Render.h"
 
 #include <CLI/CLI.hpp>
+#include <utility>
 
 #include "cli/Session.h"
 #include "cli/check/Words.h"
 #include "cli/render/ChartsToDraw.h"
 #include "cli/render/DrawnCharts.h"
 #include "cli/render/DrawnSheet.h"
-#include "cli/render/LoadPainter.h"
 
 namespace plotsmith::cli {
 
@@ -34,12 +34,16 @@ int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {
     throw CommandError(exit_code::kUsage, "--sheet draws a whole sheet and can't be combined with charts.");
   if (onePage_ && !sheet_) throw CommandError(exit_code::kUsage, "--one-page can only be used with --sheet.");
   const PicturePlan plan = PlanPictures(pictures_, output_);
-  const auto loading = LoadMeasureAhead(plan.format);
+  const bool list = plan.target == PicturePlan::Target::kFolder;
+  auto writer = std::make_unique<PictureWriter>(plan, streams, list);
+  writer->LoadAhead();
   Session session(book_, options, streams);
-  return sheet_ ? RenderSheet(session, plan, streams) : RenderCharts(session, plan, streams);
+  return sheet_ ? RenderSheet(session, std::move(writer), streams)
+                : RenderCharts(session, std::move(writer), streams);
 }
 
-int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const Streams& streams) const {
+int RenderCommand::RenderCharts(Session& session, std::unique_ptr<PictureWriter> writer,
+                                const Streams& streams) const {
   session.UseBook();
   const auto defined = DefinedCharts(session.Book());
   const int code = session.Finish();
@@ -52,19 +56,19 @@ int RenderCommand::RenderCharts(Session& session, const PicturePlan& plan, const
     streams.err << ".\n";
     return exit_code::kDoneWithMessages;
   }
-  CheckPictureCount(plan, charts.size(), "chart", streams);
-  const bool list = plan.target == PicturePlan::Target::kFolder;
-  const DrawnCounts counts = WriteCharts(session.Book(), book_, charts, plan, streams, list);
+  CheckPictureCount(writer->Plan(), charts.size(), "chart", streams);
+  const DrawnCounts counts = WriteCharts(session.Book(), book_, charts, std::move(writer), streams);
   if (counts.drawn == 0) throw CommandError(exit_code::kFile, "nothing was drawn.");
   return counts.hasMessages ? exit_code::kDoneWithMessages : code;
 }
 
-int RenderCommand::RenderSheet(Session& session, const PicturePlan& plan, const Streams& streams) const {
+int RenderCommand::RenderSheet(Session& session, std::unique_ptr<PictureWriter> writer,
+                               const Streams& streams) const {
   const auto sheet = session.Book().FindSheet(*sheet_);
   if (!sheet) throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no sheet \"" + *sheet_ + "\".");
   const auto paper = onePage_ ? render::Paper::kOne : render::Paper::kPrinted;
-  return WriteSheet(session.Book(), book_, *sheet, paper, plan, streams) ? exit_code::kDoneWithMessages
-                                                                         : session.Finish();
+  const bool hasMessages = WriteSheet(session.Book(), book_, *sheet, paper, std::move(writer), streams);
+  return hasMessages ? exit_code::kDoneWithMessages : session.Finish();
 }
 
 }  // namespace plotsmith::cli

@@ -1,11 +1,12 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/Command.h"
-#include "cli/render/PictureOptions.h"
+#include "cli/render/PictureWriter.h"
 
 namespace plotsmith::cli {
 
@@ -18,8 +19,8 @@ class RenderCommand final : public Command {
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:
-  int RenderCharts(Session& session, const PicturePlan& plan, const Streams& streams) const;
-  int RenderSheet(Session& session, const PicturePlan& plan, const Streams& streams) const;
+  int RenderCharts(Session& session, std::unique_ptr<PictureWriter> writer, const Streams& streams) const;
+  int RenderSheet(Session& session, std::unique_ptr<PictureWriter> writer, const Streams& streams) const;
 
   std::string book_;
   std::vector<std::string> charts_;

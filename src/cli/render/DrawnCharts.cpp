@@ -6,7 +6,6 @@
 
 #include "cli/render/LoadPainter.h"
 #include "cli/render/PictureNames.h"
-#include "cli/render/PictureWriter.h"
 #include "render/chart/ChartDrawing.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Workbook.h"
@@ -69,21 +68,24 @@ std::vector<render::Drawing> Draw(DrawnChart& drawn, PictureFormat format) {
 }  // namespace
 
 DrawnCounts WriteCharts(xlsx::Workbook& workbook, const std::string& book,
-                        const std::vector<ChartToDraw>& charts, const PicturePlan& plan,
-                        const Streams& streams, bool list) {
+                        const std::vector<ChartToDraw>& charts, std::unique_ptr<PictureWriter> writer,
+                        const Streams& streams) {
   PictureNames names(book);
-  std::deque<DrawnChart> drawn;  // before the writer, because its threads work on these
-  PictureWriter writer(plan, streams, list);
+  std::deque<DrawnChart> drawn;
+  // declared after `drawn`, because its threads use the charts until it ends
+  const std::unique_ptr<PictureWriter> pictures = std::move(writer);
+  const PictureFormat format = pictures->Plan().format;
+  pictures->Open();
   for (const ChartToDraw& chart : charts) {
     DrawnChart& one = drawn.emplace_back();
     one.label = chart.label;
-    Read(workbook, chart.chart, plan.format, one);
+    Read(workbook, chart.chart, format, one);
     const std::string name = names.NameFor(chart.label);
-    if (one.isDrawn) writer.Add(name, [&one, &plan] { return Draw(one, plan.format); });
+    if (one.isDrawn) pictures->Add(name, [&one, format] { return Draw(one, format); });
   }
-  writer.Finish();
+  pictures->Finish();
   DrawnCounts counts;
-  counts.hasMessages = !charts.empty() && ReportMissingFonts(LoadMeasure(plan.format), streams);
+  counts.hasMessages = !charts.empty() && ReportMissingFonts(LoadMeasure(format), streams);
   for (const DrawnChart& one : drawn) {
     for (const std::string& note : one.notes)
       streams.err << "plotsmith: " << one.label << ": " << note << '\n';

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "cli/Streams.h"
 #include "cli/render/ChartsToDraw.h"
-#include "cli/render/PictureOptions.h"
+#include "cli/render/PictureWriter.h"
 
 namespace plotsmith::xlsx {
 class Workbook;
@@ -21,9 +22,9 @@ struct DrawnCounts {
 };
 
 /// Draws charts of the workbook at `book` and writes their pictures. Reports what isn't drawn on `err`, one
-/// line each. With `list`, prints the files on `out`.
+/// line each. The threads of the writer read the charts, so the writer ends here.
 DrawnCounts WriteCharts(xlsx::Workbook& workbook, const std::string& book,
-                        const std::vector<ChartToDraw>& charts, const PicturePlan& plan,
-                        const Streams& streams, bool list);
+                        const std::vector<ChartToDraw>& charts, std::unique_ptr<PictureWriter> writer,
+                        const Streams& streams);
 
 }  // namespace plotsmith::cli

@@ -7,14 +7,14 @@
 #include "cli/Command.h"
 #include "cli/render/LoadPainter.h"
 #include "cli/render/PictureNames.h"
-#include "cli/render/PictureWriter.h"
 #include "xlsx/Sheet.h"
 #include "xlsx/Workbook.h"
 
 namespace plotsmith::cli {
 
 bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::SheetEntry& sheet,
-                render::Paper paper, const PicturePlan& plan, const Streams& streams) {
+                render::Paper paper, std::unique_ptr<PictureWriter> writer, const Streams& streams) {
+  const PicturePlan& plan = writer->Plan();
   const render::TextMeasure& measure = LoadMeasure(plan.format);
   const bool fontsAreMissing = ReportMissingFonts(measure, streams);
   render::Notes notes;
@@ -24,17 +24,19 @@ bool WriteSheet(xlsx::Workbook& workbook, const std::string& book, const xlsx::S
     throw CommandError(exit_code::kUsage, "the sheet \"" + sheet.name + "\" has nothing to print.");
   }
   CheckPictureCount(plan, pages.size(), "page", streams);
-  PictureWriter writer(plan, streams, plan.target == PicturePlan::Target::kFolder);
+  // declared after `pages`, because its threads use the pages until it ends
+  const std::unique_ptr<PictureWriter> pictures = std::move(writer);
+  pictures->Open();
   const std::string name = PictureNames(book).NameFor(sheet.name);
   if (plan.format == PictureFormat::kPdf || pages.size() == 1) {
-    writer.Add(name, [&] { return std::move(pages); });
+    pictures->Add(name, [&] { return std::move(pages); });
   } else {
     for (std::size_t i = 0; i < pages.size(); ++i) {
-      writer.Add(name + "-" + std::to_string(i + 1),
-                 [&page = pages[i]] { return std::vector{std::move(page)}; });
+      pictures->Add(name + "-" + std::to_string(i + 1),
+                    [&page = pages[i]] { return std::vector{std::move(page)}; });
     }
   }
-  writer.Finish();
+  pictures->Finish();
   return fontsAreMissing || !notes.empty();
 }
 

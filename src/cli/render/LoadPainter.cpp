@@ -1,7 +1,5 @@
 #include "cli/render/LoadPainter.h"
 
-#include <system_error>
-
 #include "cli/Command.h"
 #include "render/TextMeasure.h"
 
@@ -11,19 +9,12 @@ const render::TextMeasure& LoadMeasure(PictureFormat format) {
   return format == PictureFormat::kSvg ? LoadFonts() : LoadPainter().Measure();
 }
 
-std::future<void> LoadMeasureAhead(PictureFormat format) {
-  const auto load = [format] {
-    try {
-      // Most charts have their texts in this font. Finding a font takes longer than drawing a chart.
-      LoadMeasure(format).Measure("0", render::Font{"Calibri", 10});
-    } catch (const CommandError&) {
-      // LoadMeasure will report the error again
-    }
-  };
+void LoadMeasureAhead(PictureFormat format) {
   try {
-    return std::async(std::launch::async, load);
-  } catch (const std::system_error&) {
-    return {};  // No thread could be created.
+    // Most charts have their texts in this font. Finding a font takes longer than drawing a chart.
+    LoadMeasure(format).Measure("0", render::Font{"Calibri", 10});
+  } catch (const CommandError&) {
+    // LoadMeasure will report the error again
   }
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <future>
-
 #include "cli/Streams.h"
 #include "cli/render/PictureOptions.h"
 #include "render/Painter.h"
@@ -21,9 +19,9 @@ const render::Painter& LoadPainter();
 const render::TextMeasure& LoadMeasure(PictureFormat format);
 ///@}
 
-/// Begins to load the measure and the list of fonts in a thread. The destructor of the result waits for the
-/// thread. LoadMeasure reports a failure.
-[[nodiscard]] std::future<void> LoadMeasureAhead(PictureFormat format);
+/// Loads the measure and the most common font. Another thread calls LoadMeasure, which waits for this and
+/// reports a failure.
+void LoadMeasureAhead(PictureFormat format);
 /// Reports on `streams` if no font is installed. Returns true in that case.
 bool ReportMissingFonts(const render::TextMeasure& measure, const Streams& streams);
 

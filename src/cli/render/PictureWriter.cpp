@@ -55,7 +55,13 @@ void WriteFile(const std::string& name, const std::string& bytes) {
 }  // namespace
 
 PictureWriter::PictureWriter(PicturePlan plan, const Streams& streams, bool list)
-    : plan_(std::move(plan)), streams_(streams), list_(list), tasks_(OrderFor(plan_)) {
+    : plan_(std::move(plan)), streams_(streams), list_(list), tasks_(OrderFor(plan_)) {}
+
+void PictureWriter::LoadAhead() {
+  tasks_.StartThreads([format = plan_.format] { LoadMeasureAhead(format); });
+}
+
+void PictureWriter::Open() {
   if (plan_.target != PicturePlan::Target::kFolder) return;
   std::error_code error;
   fs::create_directories(runtime::PathOf(plan_.path), error);

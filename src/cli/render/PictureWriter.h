@@ -19,9 +19,17 @@ namespace plotsmith::cli {
 /// Threads make and write the pictures while the caller continues.
 class PictureWriter {
  public:
-  /// Makes the folder if it doesn't exist. Throws CommandError if that fails. With `list`, the paths are
-  /// printed.
+  /// Makes a writer for a plan. With `list`, the paths are printed.
   PictureWriter(PicturePlan plan, const Streams& streams, bool list);
+
+  /// Starts the threads, and loads the measure and the list of fonts in one of them. Loading takes longer
+  /// than reading a workbook, so call this before you open the workbook.
+  void LoadAhead();
+  /// Makes the folder if it doesn't exist. Throws CommandError if that fails. Call this before the first
+  /// picture.
+  void Open();
+  /// Returns the plan.
+  const PicturePlan& Plan() const { return plan_; }
 
   /// Draws the pages of a file: one page, or several of a PDF document. Without a page there is no file. It
   /// may be called by any thread.

@@ -31,21 +31,31 @@ TaskQueue::~TaskQueue() {
   for (std::thread& thread : threads_) thread.join();
 }
 
-void TaskQueue::Add(Task task) {
-  std::unique_lock lock(mutex_);
-  waiting_.push_back({given_++, std::move(task)});
-  if (given_ == 1) return;  // One task isn't worth a thread.
-  if (given_ == 2) Start();
-  changed_.notify_all();
-  WorkUntilThereAre(threads_.empty() ? 0 : kMostWaiting, lock);
-}
-
-void TaskQueue::Start() {
+void TaskQueue::StartThreads(Task preparation) {
+  const std::size_t count = ThreadsFor(order_);
   try {
-    for (std::size_t i = ThreadsFor(order_); i > 0; --i) threads_.emplace_back([this] { Work(); });
+    for (std::size_t i = 1; i < count; ++i) threads_.emplace_back([this] { Work(); });
+    // This thread is the last one, because a thread can't be created while another one loads a library.
+    if (count > 0) {
+      threads_.emplace_back([this, preparation = std::move(preparation)] {
+        preparation();
+        Work();
+      });
+    }
   } catch (const std::system_error&) {
     // The tasks run on fewer threads, or on the caller's.
   }
+}
+
+void TaskQueue::Add(Task task) {
+  std::unique_lock lock(mutex_);
+  waiting_.push_back({given_++, std::move(task)});
+  if (threads_.empty()) {
+    if (given_ == 1) return;
+    if (given_ == 2) StartThreads([] {});
+  }
+  changed_.notify_all();
+  WorkUntilThereAre(threads_.empty() ? 0 : kMostWaiting, lock);
 }
 
 void TaskQueue::WorkUntilThereAre(std::size_t waiting, std::unique_lock<std::mutex>& lock) {

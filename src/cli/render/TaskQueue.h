@@ -23,16 +23,19 @@ class TaskQueue {
     kInTurn,  ///< One task after the other.
   };
 
-  /// Makes an empty queue. Threads are started with the second task.
+  /// Makes an empty queue. Its threads are started with the second task, or by StartThreads.
   explicit TaskQueue(Order order);
   /// Waits for the running tasks, and discards the waiting ones.
   ~TaskQueue();
   TaskQueue(const TaskQueue&) = delete;
   TaskQueue& operator=(const TaskQueue&) = delete;
 
-  /// Adds a task. The first task is not started until the second one or until Finish, because one task isn't
-  /// worth a thread. If many tasks are waiting, this runs some of them, or waits until the threads have run
-  /// some.
+  /// Starts the threads. One of them runs `preparation`, which must not throw, before its first task. With
+  /// only one processor, or if no thread can be created, `preparation` isn't run.
+  void StartThreads(Task preparation);
+  /// Adds a task. If no threads run yet, the first task is not started until the second one or until Finish,
+  /// because one task isn't worth a thread. If many tasks are waiting, this runs some of them, or waits until
+  /// the threads have run some.
   void Add(Task task);
   /// Waits until all tasks are done. Returns the number of tasks, in the order of Add, that were done before
   /// the first one that failed; `failure` is the exception of that task. After a failure, waiting tasks are
@@ -47,7 +50,6 @@ class TaskQueue {
     Task task;
   };
 
-  void Start();
   void Work();
   /// Runs waiting tasks, or waits for the threads to run them, until at most `waiting` are left.
   void WorkUntilThereAre(std::size_t waiting, std::unique_lock<std::mutex>& lock);
