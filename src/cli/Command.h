@@ -53,12 +53,22 @@ inline constexpr const char* kOutputDescription =
 /// A verb of the command line.
 class Command {
  public:
+  /// Makes a verb with a name and a description for the help.
+  Command(const char* name, const char* description) : name_(name), description_(description) {}
   virtual ~Command() = default;
 
-  /// Declares the verb and its options below `app`.
-  virtual CLI::App* Declare(CLI::App& app) = 0;
+  /// The name of the verb.
+  const char* Name() const { return name_; }
+  /// What the verb does, in a few words.
+  const char* Description() const { return description_; }
+  /// Declares the arguments and options of the verb. This object keeps their values.
+  virtual void DeclareOptions(CLI::App& verb) = 0;
   /// Executes the verb. Returns an exit code, or throws a CommandError or a PackageError.
   virtual int Run(const GlobalOptions& options, const Streams& streams) = 0;
+
+ private:
+  const char* name_;
+  const char* description_;
 };
 
 }  // namespace plotsmith::cli

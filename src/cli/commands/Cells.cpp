@@ -72,15 +72,13 @@ xlsx::CellRange UsedPart(xlsx::CellRange range, xlsx::Worksheet& sheet) {
 
 }  // namespace
 
-CLI::App* CellsCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("cells", "Print the cells of a range, also on hidden sheets");
-  verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_option("RANGE", range_, "The range, such as 'Sheet1!A1:D9'")->required();
-  verb->add_flag("--value", value_, "Print values instead of displayed texts");
-  verb->add_flag(
+void CellsCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("BOOK", book_, "The workbook")->required();
+  verb.add_option("RANGE", range_, "The range, such as 'Sheet1!A1:D9'")->required();
+  verb.add_flag("--value", value_, "Print values instead of displayed texts");
+  verb.add_flag(
       "--json", json_,
       "Print JSON, a list of rows; the values of dates and times have a number and a text in ISO 8601");
-  return verb;
 }
 
 int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {

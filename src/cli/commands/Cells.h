@@ -7,7 +7,8 @@ namespace plotsmith::cli {
 /// Prints the cells of a range, also on very hidden sheets.
 class CellsCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  CellsCommand() : Command("cells", "Print the cells of a range, also on hidden sheets") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

@@ -77,11 +77,9 @@ bool ReportUnlisted(const std::vector<CheckedDefinition>& checked, std::ostream&
 
 }  // namespace
 
-CLI::App* ChartsCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("charts", "List the charts that a workbook defines");
-  verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_flag("--json", json_, "Print JSON");
-  return verb;
+void ChartsCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("BOOK", book_, "The workbook")->required();
+  verb.add_flag("--json", json_, "Print JSON");
 }
 
 int ChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {

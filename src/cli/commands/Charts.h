@@ -7,7 +7,8 @@ namespace plotsmith::cli {
 /// Lists the charts that the workbook defines.
 class ChartsCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  ChartsCommand() : Command("charts", "List the charts that a workbook defines") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

@@ -134,12 +134,9 @@ void CheckDrawn(Session& session, std::vector<CheckedDefinition>& definitions) {
 
 }  // namespace
 
-CLI::App* CheckCommand::Declare(CLI::App& app) {
-  CLI::App* verb =
-      app.add_subcommand("check", "List the problems in definitions and tables, and change nothing");
-  verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_flag("--json", json_, "Print JSON");
-  return verb;
+void CheckCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("BOOK", book_, "The workbook")->required();
+  verb.add_flag("--json", json_, "Print JSON");
 }
 
 int CheckCommand::Run(const GlobalOptions& options, const Streams& streams) {

@@ -7,7 +7,8 @@ namespace plotsmith::cli {
 /// Lists the problems in the definitions and tables of a workbook. Changes nothing.
 class CheckCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  CheckCommand() : Command("check", "List the problems in definitions and tables, and change nothing") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

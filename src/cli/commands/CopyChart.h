@@ -11,7 +11,8 @@ namespace plotsmith::cli {
 /// Copies a chart in the wizard.
 class CopyChartCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  CopyChartCommand() : Command("copy", "Copy a chart; settings without an option are copied") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

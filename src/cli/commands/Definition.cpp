@@ -8,11 +8,9 @@
 
 namespace plotsmith::cli {
 
-CLI::App* DefinitionCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("definition", "Print the definition of a chart");
-  verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_option("CHART", chart_, "The id or the name of the chart")->required();
-  return verb;
+void DefinitionCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("BOOK", book_, "The workbook")->required();
+  verb.add_option("CHART", chart_, "The id or the name of the chart")->required();
 }
 
 int DefinitionCommand::Run(const GlobalOptions& options, const Streams& streams) {

@@ -7,7 +7,8 @@ namespace plotsmith::cli {
 /// Prints the definition of a chart after it was read back from the chart.
 class DefinitionCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  DefinitionCommand() : Command("definition", "Print the definition of a chart") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

@@ -6,12 +6,10 @@
 
 namespace plotsmith::cli {
 
-CLI::App* DeleteChartsCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("delete", "Delete charts, with their definitions and comment boxes");
-  DeclareBook(*verb, verb_);
-  verb->add_option("CHART", charts_, "The id or the name of a chart")->required();
-  DeclareOutput(*verb, verb_);
-  return verb;
+void DeleteChartsCommand::DeclareOptions(CLI::App& verb) {
+  DeclareBook(verb, verb_);
+  verb.add_option("CHART", charts_, "The id or the name of a chart")->required();
+  DeclareOutput(verb, verb_);
 }
 
 int DeleteChartsCommand::Run(const GlobalOptions& options, const Streams& streams) {

@@ -11,7 +11,8 @@ namespace plotsmith::cli {
 /// Deletes charts in the wizard.
 class DeleteChartsCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  DeleteChartsCommand() : Command("delete", "Delete charts, with their definitions and comment boxes") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

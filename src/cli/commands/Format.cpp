@@ -27,13 +27,11 @@ std::optional<std::string> Shown(std::string_view code, std::string_view value, 
 
 }  // namespace
 
-CLI::App* FormatCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("format", "Show a value in a number format");
-  verb->footer("plotsmith format FORMAT VALUE\nplotsmith format --tsv < FILE");
-  verb->add_flag("--tsv", tsv_, "Read lines of format, tab, value; print a text for each");
-  verb->add_flag("--date1904", date1904_, "Count days from 1904");
-  verb->add_option("FORMAT VALUE", arguments_, "The format's code, and a number, TRUE, FALSE or a text");
-  return verb;
+void FormatCommand::DeclareOptions(CLI::App& verb) {
+  verb.footer("plotsmith format FORMAT VALUE\nplotsmith format --tsv < FILE");
+  verb.add_flag("--tsv", tsv_, "Read lines of format, tab, value; print a text for each");
+  verb.add_flag("--date1904", date1904_, "Count days from 1904");
+  verb.add_option("FORMAT VALUE", arguments_, "The format's code, and a number, TRUE, FALSE or a text");
 }
 
 int FormatCommand::Run(const GlobalOptions&, const Streams& streams) {

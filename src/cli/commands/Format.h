@@ -9,7 +9,8 @@ namespace plotsmith::cli {
 /// Shows a value in a number format.
 class FormatCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  FormatCommand() : Command("format", "Show a value in a number format") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

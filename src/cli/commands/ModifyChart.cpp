@@ -6,13 +6,11 @@
 
 namespace plotsmith::cli {
 
-CLI::App* ModifyChartCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("modify", "Change a chart; settings without an option don't change");
-  DeclareBook(*verb, verb_);
-  verb->add_option("CHART", id_, "The id or the name of the chart")->required();
-  DeclareChartOptions(*verb, chart_);
-  DeclareOutput(*verb, verb_);
-  return verb;
+void ModifyChartCommand::DeclareOptions(CLI::App& verb) {
+  DeclareBook(verb, verb_);
+  verb.add_option("CHART", id_, "The id or the name of the chart")->required();
+  DeclareChartOptions(verb, chart_);
+  DeclareOutput(verb, verb_);
 }
 
 int ModifyChartCommand::Run(const GlobalOptions& options, const Streams& streams) {

@@ -11,7 +11,8 @@ namespace plotsmith::cli {
 /// Changes a chart in the wizard.
 class ModifyChartCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  ModifyChartCommand() : Command("modify", "Change a chart; settings without an option don't change") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

@@ -6,15 +6,13 @@
 
 namespace plotsmith::cli {
 
-CLI::App* NewChartCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("new", "Make a new chart from a table");
-  DeclareBook(*verb, verb_);
-  DeclareChartOptions(*verb, chart_);
-  verb->get_option("--table")->required();
-  verb->get_option("--type")->required();
-  DeclarePlaceOptions(*verb, chart_);
-  DeclareOutput(*verb, verb_);
-  return verb;
+void NewChartCommand::DeclareOptions(CLI::App& verb) {
+  DeclareBook(verb, verb_);
+  DeclareChartOptions(verb, chart_);
+  verb.get_option("--table")->required();
+  verb.get_option("--type")->required();
+  DeclarePlaceOptions(verb, chart_);
+  DeclareOutput(verb, verb_);
 }
 
 int NewChartCommand::Run(const GlobalOptions& options, const Streams& streams) {

@@ -11,7 +11,8 @@ namespace plotsmith::cli {
 /// Makes a chart in the wizard.
 class NewChartCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  NewChartCommand() : Command("new", "Make a new chart from a table") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

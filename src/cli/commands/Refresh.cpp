@@ -13,23 +13,21 @@
 
 namespace plotsmith::cli {
 
-CLI::App* RefreshCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("refresh", "Rebuild the charts of workbooks from their tables");
-  verb->add_option("BOOK", books_, "The workbooks (.xlsx, .xlsm, .xltx or .xltm)")->required();
-  verb->add_option("--table", table_, "Rebuild only the charts of the table with this id")->type_name("ID");
-  verb->add_option("-o,--output", output_,
-                   "Write to this file, or into this folder, and leave BOOK as it is; \"-\" is the standard "
-                   "output")
+void RefreshCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("BOOK", books_, "The workbooks (.xlsx, .xlsm, .xltx or .xltm)")->required();
+  verb.add_option("--table", table_, "Rebuild only the charts of the table with this id")->type_name("ID");
+  verb.add_option("-o,--output", output_,
+                  "Write to this file, or into this folder, and leave BOOK as it is; \"-\" is the standard "
+                  "output")
       ->type_name("FILE");
-  verb->add_option("--jobs", jobs_,
-                   "Work on this many workbooks at a time (default: two for each processor). "
-                   "On Windows, workbooks are processed one after the other")
+  verb.add_option("--jobs", jobs_,
+                  "Work on this many workbooks at a time (default: two for each processor). "
+                  "On Windows, workbooks are processed one after the other")
       ->type_name("N");
-  verb->add_flag("--verbose", verbose_, "Print a summary at the end");
-  verb->add_option("--render", pictureFolder_, "Also draw the refreshed charts into this folder")
+  verb.add_flag("--verbose", verbose_, "Print a summary at the end");
+  verb.add_option("--render", pictureFolder_, "Also draw the refreshed charts into this folder")
       ->type_name("FOLDER");
-  DeclarePictureOptions(*verb, pictures_, "svg");
-  return verb;
+  DeclarePictureOptions(verb, pictures_, "svg");
 }
 
 int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {

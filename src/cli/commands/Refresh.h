@@ -13,7 +13,8 @@ namespace plotsmith::cli {
 /// Rebuilds the charts of workbooks: all of them, or those of one table. Optionally draws them into a folder.
 class RefreshCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  RefreshCommand() : Command("refresh", "Rebuild the charts of workbooks from their tables") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

@@ -80,14 +80,11 @@ std::vector<Renaming> InSteps(std::vector<Renaming> renamings) {
   return steps;
 }
 
-CLI::App* RenameColumnsCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("rename-columns",
-                                      "Rename columns in a table's charts after its headings were changed");
-  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm, .xltx or .xltm)")->required();
-  verb->add_option("OLD=NEW", renamings_, "The old and the new name of a column")->required();
-  verb->add_option("--table", table_, "The id of the table")->required()->type_name("ID");
-  verb->add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
-  return verb;
+void RenameColumnsCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("BOOK", book_, "The workbook (.xlsx, .xlsm, .xltx or .xltm)")->required();
+  verb.add_option("OLD=NEW", renamings_, "The old and the new name of a column")->required();
+  verb.add_option("--table", table_, "The id of the table")->required()->type_name("ID");
+  verb.add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
 }
 
 int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& streams) {

@@ -12,7 +12,9 @@ namespace plotsmith::cli {
 /// Renames columns of a table in the definitions of its charts.
 class RenameColumnsCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  RenameColumnsCommand()
+      : Command("rename-columns", "Rename columns in a table's charts after its headings were changed") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

@@ -11,22 +11,20 @@
 
 namespace plotsmith::cli {
 
-CLI::App* RenderCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("render", "Draw charts into files: SVG, PNG or PDF");
-  verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_option("CHART", charts_,
-                   "The id or the name of a chart; or any chart by its sheet and shape, such as "
-                   "'Sheet1!Chart 2', or by its "
-                   "chart sheet. Without this argument, all charts of Plotsmith are drawn");
-  verb->add_option("--sheet", sheet_, "Draw this sheet with its cells and charts, as it is printed")
+void RenderCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("BOOK", book_, "The workbook")->required();
+  verb.add_option("CHART", charts_,
+                  "The id or the name of a chart; or any chart by its sheet and shape, such as "
+                  "'Sheet1!Chart 2', or by its "
+                  "chart sheet. Without this argument, all charts of Plotsmith are drawn");
+  verb.add_option("--sheet", sheet_, "Draw this sheet with its cells and charts, as it is printed")
       ->type_name("SHEET");
-  verb->add_flag("--one-page", onePage_, "Draw the sheet on one page that is as large as its contents");
-  DeclarePictureOptions(*verb, pictures_, "the extension of -o, else svg");
-  verb->add_option("-o,--output", output_,
-                   "Write to this file or into this folder (default: the current folder); \"-\" is the "
-                   "standard output")
+  verb.add_flag("--one-page", onePage_, "Draw the sheet on one page that is as large as its contents");
+  DeclarePictureOptions(verb, pictures_, "the extension of -o, else svg");
+  verb.add_option("-o,--output", output_,
+                  "Write to this file or into this folder (default: the current folder); \"-\" is the "
+                  "standard output")
       ->type_name("FILE");
-  return verb;
 }
 
 int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {

@@ -15,7 +15,8 @@ class Session;
 /// Draws charts, or a sheet as it is printed, into files.
 class RenderCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  RenderCommand() : Command("render", "Draw charts into files: SVG, PNG or PDF") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

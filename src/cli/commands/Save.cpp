@@ -6,13 +6,11 @@
 
 namespace plotsmith::cli {
 
-CLI::App* SaveCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("save", "Open a workbook and save it without changes");
-  verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_option("-o,--output", output_, "The file to write, or \"-\" for the standard output")
+void SaveCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("BOOK", book_, "The workbook")->required();
+  verb.add_option("-o,--output", output_, "The file to write, or \"-\" for the standard output")
       ->required()
       ->type_name("FILE");
-  return verb;
 }
 
 int SaveCommand::Run(const GlobalOptions& options, const Streams& streams) {

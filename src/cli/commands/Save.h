@@ -7,7 +7,8 @@ namespace plotsmith::cli {
 /// Opens and saves a workbook without other changes.
 class SaveCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  SaveCommand() : Command("save", "Open a workbook and save it without changes") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

@@ -24,11 +24,9 @@ void Print(std::ostream& out, const Json& table) {
 
 }  // namespace
 
-CLI::App* TablesCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("tables", "List the tables of a workbook, with their columns");
-  verb->add_option("BOOK", book_, "The workbook")->required();
-  verb->add_flag("--json", json_, "Print JSON");
-  return verb;
+void TablesCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("BOOK", book_, "The workbook")->required();
+  verb.add_flag("--json", json_, "Print JSON");
 }
 
 int TablesCommand::Run(const GlobalOptions& options, const Streams& streams) {

@@ -7,7 +7,8 @@ namespace plotsmith::cli {
 /// Lists the tables for charts.
 class TablesCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  TablesCommand() : Command("tables", "List the tables of a workbook, with their columns") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

@@ -21,19 +21,17 @@ constexpr const char* kWindowProgram = "plotsmith-wizard";
 
 }  // namespace
 
-CLI::App* WizardCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("wizard", "Open the wizard's window, or run a script on its pages");
-  verb->footer(
+void WizardCommand::DeclareOptions(CLI::App& verb) {
+  verb.footer(
       "plotsmith wizard BOOK [-o FILE]\n"
       "plotsmith wizard BOOK --script FILE [-o FILE] [--show] [--json]");
-  verb->add_option("BOOK", book_, "The workbook (.xlsx, .xlsm, .xltx or .xltm)")->required();
+  verb.add_option("BOOK", book_, "The workbook (.xlsx, .xlsm, .xltx or .xltm)")->required();
   CLI::Option* const script =
-      verb->add_option("--script", script_, "The script, one action per line; \"-\" is the standard input")
+      verb.add_option("--script", script_, "The script, one action per line; \"-\" is the standard input")
           ->type_name("FILE");
-  verb->add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
-  verb->add_flag("--show", show_, "Print the page that is open when the script ends")->needs(script);
-  verb->add_flag("--json", json_, "Print pages as JSON")->needs(script);
-  return verb;
+  verb.add_option("-o,--output", output_, kOutputDescription)->type_name("FILE");
+  verb.add_flag("--show", show_, "Print the page that is open when the script ends")->needs(script);
+  verb.add_flag("--json", json_, "Print pages as JSON")->needs(script);
 }
 
 int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {

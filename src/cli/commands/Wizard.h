@@ -10,7 +10,8 @@ namespace plotsmith::cli {
 /// Opens the wizard's window, or runs a script on its pages.
 class WizardCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  WizardCommand() : Command("wizard", "Open the wizard's window, or run a script on its pages") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

@@ -1,5 +1,8 @@
 #include "cli/line/CommandLine.h"
 
+#include <algorithm>
+#include <cstddef>
+
 #include "cli/HostVersionOption.h"
 #include "cli/commands/AllCommands.h"
 #include "cli/line/Help.h"
@@ -21,7 +24,9 @@ constexpr const char* kFooter =
 
 }  // namespace
 
-CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeCommands()) {
+CommandLine::CommandLine() : CommandLine(VerbsOnly{}) { DeclareOptions({}); }
+
+CommandLine::CommandLine(VerbsOnly) : app(kDescription, "plotsmith"), commands(MakeCommands()) {
   app.footer(kFooter);
   app.require_subcommand(1);
   app.fallthrough();
@@ -33,7 +38,16 @@ CommandLine::CommandLine() : app(kDescription, "plotsmith"), commands(MakeComman
                "Also write a workbook whose definitions are broken or have no chart, and drop these");
   app.add_flag("--force", options.force, "Also write a workbook that another program has open");
   commands.push_back(std::make_unique<HelpCommand>());
-  for (const auto& command : commands) verbs.push_back(command->Declare(app));
+  for (const auto& command : commands)
+    verbs.push_back(app.add_subcommand(command->Name(), command->Description()));
+}
+
+void CommandLine::DeclareOptions(const std::string& verb) {
+  const bool isKnown = std::any_of(commands.begin(), commands.end(),
+                                   [&](const auto& command) { return command->Name() == verb; });
+  for (std::size_t i = 0; i < commands.size(); ++i) {
+    if (!isKnown || commands[i]->Name() == verb) commands[i]->DeclareOptions(*verbs[i]);
+  }
 }
 
 std::string NoSuchVerb(const std::string& name) {

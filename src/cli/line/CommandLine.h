@@ -11,7 +11,17 @@ namespace plotsmith::cli {
 
 /// The declared command line before parsing. The manual is generated from it.
 struct CommandLine {
+  /// Declares all verbs with their options.
   CommandLine();
+  /// Declares all verbs without their options.
+  ///@{
+  struct VerbsOnly {};
+  explicit CommandLine(VerbsOnly);
+  ///@}
+
+  /// Declares the options of the verb with this name, or of all verbs if none has the name. To run one verb,
+  /// call this once for it: the options of all verbs take as long as a small workbook takes to open.
+  void DeclareOptions(const std::string& verb);
 
   CLI::App app;                                    ///< The parser, with the declarations of all verbs.
   GlobalOptions options;                           ///< The options that apply to all verbs.

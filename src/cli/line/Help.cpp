@@ -6,10 +6,8 @@
 
 namespace plotsmith::cli {
 
-CLI::App* HelpCommand::Declare(CLI::App& app) {
-  CLI::App* verb = app.add_subcommand("help", "Describe a command and its options");
-  verb->add_option("COMMAND", verb_, "The command (default: an overview of all commands)");
-  return verb;
+void HelpCommand::DeclareOptions(CLI::App& verb) {
+  verb.add_option("COMMAND", verb_, "The command (default: an overview of all commands)");
 }
 
 int HelpCommand::Run(const GlobalOptions&, const Streams& streams) {

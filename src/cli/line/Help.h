@@ -9,7 +9,8 @@ namespace plotsmith::cli {
 /// Prints the help of the command or of a verb.
 class HelpCommand final : public Command {
  public:
-  CLI::App* Declare(CLI::App& app) override;
+  HelpCommand() : Command("help", "Describe a command and its options") {}
+  void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:

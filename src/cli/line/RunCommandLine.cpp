@@ -56,7 +56,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     PrintCandidates({arguments.begin() + 1, arguments.end()}, streams);
     return exit_code::kDone;
   }
-  CommandLine line;
+  CommandLine line(CommandLine::VerbsOnly{});
   const auto run = [&] {
     for (std::size_t i = 0; i < line.commands.size(); ++i) {
       if (line.verbs[i]->parsed()) return line.commands[i]->Run(line.options, streams);
@@ -65,6 +65,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
   };
   return Guarded(streams.err, [&] {
     const std::size_t at = VerbPosition(arguments, line.app);
+    line.DeclareOptions(at < arguments.size() ? arguments[at] : "");
     const bool known = at >= arguments.size() || arguments[at].starts_with('-') ||
                        std::any_of(line.verbs.begin(), line.verbs.end(),
                                    [&](const CLI::App* verb) { return verb->get_name() == arguments[at]; });
