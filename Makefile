@@ -23,7 +23,7 @@ demo:
 	@cmake --build build --target plotsmith
 	@scripts/demo.sh
 
-# Builds, and runs all tests twice: in the default locale and in one with a decimal comma.
+# Builds, and runs all tests.
 check: build
 	@scripts/check.sh
 
@@ -39,12 +39,12 @@ package:
 installer:
 	@scripts/installer.sh
 
-# Runs all tests under the address and undefined-behaviour sanitizers.
+# Runs all tests under the address and undefined-behaviour sanitizers, in a locale with a decimal comma.
 sanitize:
 	@scripts/install-dependencies.sh
 	@cmake --preset sanitizers
 	@cmake --build build-sanitizers
-	@scripts/run-tests.sh build-sanitizers/tests/plotsmith_tests \
+	@scripts/with-decimal-comma.sh scripts/run-tests.sh build-sanitizers/tests/plotsmith_tests \
 	  $$(ls build-sanitizers/tests/qt/plotsmith_qt_tests 2>/dev/null || true)
 
 # Runs each fuzzer for a minute, or for FUZZ_SECONDS seconds.

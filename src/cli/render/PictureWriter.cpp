@@ -34,16 +34,16 @@ TaskQueue::Order OrderFor(const PicturePlan& plan) {
 /// systems such as ext4 would write it to the disk when it is closed, which takes longer than drawing.
 void WriteFile(const std::string& name, const std::string& bytes) {
   const fs::path path = runtime::PathOf(name);
-  std::error_code ignored, error;
-  const bool isThere = fs::is_regular_file(path, ignored);
-  const std::uintmax_t formerSize = isThere ? fs::file_size(path, ignored) : 0;
+  std::error_code noFile, error;
+  const std::uintmax_t formerSize = fs::file_size(path, noFile);  // Only regular files have a size.
+  const bool isThere = !noFile;
   const auto mode = std::ios::binary | std::ios::out;
   std::fstream file(path, isThere ? mode | std::ios::in : mode);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   if (!file) {
     error.assign(errno != 0 ? errno : EIO, std::generic_category());
-  } else if (formerSize > bytes.size()) {
+  } else if (isThere && formerSize > bytes.size()) {
     fs::resize_file(path, bytes.size(), error);
   }
   if (error) {
