@@ -119,38 +119,31 @@ TEST_F(AbcChartTest, AreaAndColumnChartsDiffer) {
 }
 
 TEST_F(AbcChartTest, SettingsDetermineTheType) {
-  const auto settings = [](std::initializer_list<const char*> names) { return test::Settings(names); };
-  const S plain = settings({}), d3 = settings({"3D"}), st = settings({"stacked"}),
-          d3st = settings({"3D", "stacked"}), full = settings({"stacked", "100%"}),
-          d3full = settings({"3D", "stacked", "100%"});
-  const std::tuple<const char*, S, int> cases[] = {{"area", plain, 1},
-                                                   {"area", d3, -4098},
-                                                   {"area", st, 76},
-                                                   {"area", d3st, 78},
-                                                   {"area", full, 77},
-                                                   {"area", d3full, 79},
-                                                   {"bar", plain, 57},
-                                                   {"bar", d3, 60},
-                                                   {"bar", st, 58},
-                                                   {"bar", d3st, 61},
-                                                   {"bar", full, 59},
-                                                   {"bar", d3full, 62},
-                                                   {"column", plain, 51},
-                                                   {"column", d3, 54},
-                                                   {"column", st, 52},
-                                                   {"column", d3st, 55},
-                                                   {"column", full, 53},
-                                                   {"column", d3full, 56},
-                                                   {"area", settings({"100%"}), 51},
-                                                   {"bar", settings({"3D", "100%"}), 51},
-                                                   {"bar", settings({"stacked", "stacked"}), 51},
-                                                   {"column", settings({"3d", "Stacked"}), 51}};
-  for (const auto& [type, xml, number] : cases) {
-    Definition definition{"VEX_Chart1", type};
-    definition.rest = xml;
-    const Lines calls = ChartCalls(definition);
-    EXPECT_EQ(calls.back(), "Chart.ChartType = " + std::to_string(number)) << type << xml;
-    EXPECT_TRUE(Messages().empty());
+  const struct {
+    S settings;
+    int area, bar, column;  // the types
+  } cases[] = {
+      {Settings({}), 1, 57, 51},
+      {Settings({"3D"}), -4098, 60, 54},
+      {Settings({"stacked"}), 76, 58, 52},
+      {Settings({"3D", "stacked"}), 78, 61, 55},
+      {Settings({"stacked", "100%"}), 77, 59, 53},
+      {Settings({"3D", "stacked", "100%"}), 79, 62, 56},
+      // Settings that don't belong together.
+      {Settings({"100%"}), 51, 51, 51},
+      {Settings({"3D", "100%"}), 51, 51, 51},
+      {Settings({"stacked", "stacked"}), 51, 51, 51},
+      // No settings have these names; case counts.
+      {Settings({"3d", "Stacked"}), 1, 57, 51},
+  };
+  for (const auto& c : cases) {
+    for (const auto& [type, number] : {std::pair{"area", c.area}, {"bar", c.bar}, {"column", c.column}}) {
+      Definition definition{"VEX_Chart1", type};
+      definition.rest = c.settings;
+      EXPECT_EQ(ChartCalls(definition).back(), "Chart.ChartType = " + std::to_string(number))
+          << type << c.settings;
+      EXPECT_TRUE(Messages().empty());
+    }
   }
 }
 

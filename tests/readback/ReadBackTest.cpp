@@ -103,17 +103,18 @@ TEST_F(ReadBackTest, ChartsAsExcelAndOthersSavedThem) {
 
 struct Case {
   const char* what;
-  S chart;     ///< The contents of c:chart.
-  S behind;    ///< The elements after it, in c:chartSpace.
-  S expected;  ///< The summary, or a part of it.
+  S chart;        ///< The contents of c:chart.
+  S expected;     ///< The summary, or a part of it.
+  S behind = "";  ///< The elements after c:chart, in c:chartSpace.
 };
 
-S Bar(const S& insideGroup, const S& axes = "") {
+S Axes(const S& category = "", const S& value = "") {
+  return "<c:catAx><c:axId val=\"1\"/>" + category + "</c:catAx><c:valAx><c:axId val=\"2\"/>" + value +
+         "</c:valAx>";
+}
+S Bar(const S& insideGroup, const S& axes = Axes()) {
   return "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"clustered\"/>" + insideGroup +
-         "<c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>" +
-         (axes.empty() ? S("<c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/></c:valAx>")
-                       : axes) +
-         "</c:plotArea>";
+         "<c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart>" + axes + "</c:plotArea>";
 }
 S Ser(const S& inside = "", int index = 0) {
   const S i = std::to_string(index);
@@ -136,160 +137,119 @@ S TextRun(const S& text, const S& properties = "/>") {
 TEST_F(ReadBackTest, EquivalentChartParts) {
   const S one = Bar(Ser()), two = Bar(Ser() + Ser("", 1)), shown = "<c:showVal val=\"1\"/>";
   const S untitled = "<c:autoTitleDeleted val=\"1\"/>";
-  const auto axes = [](const S& category, const S& value) {
-    return "<c:catAx><c:axId val=\"1\"/>" + category + "</c:catAx><c:valAx><c:axId val=\"2\"/>" + value +
-           "</c:valAx>";
+  const auto title = [](const S& text) { return "<c:title>" + text + "</c:title>"; };
+  const auto ofCell = [](const S& text) {
+    return "<c:tx><c:strRef><c:strCache><c:pt idx=\"0\"><c:v>" + text +
+           "</c:v></c:pt></c:strCache></c:strRef></c:tx>";
   };
+  const auto withAxes = [&](const S& category, const S& value = "") {
+    return untitled + Bar(Ser(), Axes(category, value));
+  };
+  const S label = title(Rich(TextRun("L")));
+  const S small = "<a:pPr><a:defRPr sz=\"800\" b=\"0\"/></a:pPr>";
+  const auto legend = [&](const S& inside) { return untitled + two + "<c:legend>" + inside + "</c:legend>"; };
+  const auto colored = [&](const S& color) { return legend(Props(">" + FillXml(color))); };
   const auto labels = [&](const S& inside) { return Bar(Ser("<c:dLbls>" + inside + "</c:dLbls>")); };
+  const auto sized = [&](const S& size, int index) {
+    return Ser("<c:dLbls>" + Props("sz=\"" + size + "\">") + shown + "</c:dLbls>", index);
+  };
+  const auto format = [](const S& isLinked) {
+    return "<c:numFmt formatCode=\"0.00\" sourceLinked=\"" + isLinked + "\"/>";
+  };
   const Case cases[] = {
       // titles
-      {"none, and one series without a name", one, "", "column |  | - | - | hide |"},
-      {"the name of the only series", Bar(Ser("<c:tx><c:v>Amount</c:v></c:tx>")), "", "column | Amount |"},
-      {"the name from its cell",
-       Bar(Ser("<c:tx><c:strRef><c:strCache><c:pt idx=\"0\"><c:v>A &amp; "
-               "B</c:v></c:pt></c:strCache></c:strRef></c:tx>")),
-       "", "column | A & B |"},
-      {"a removed title", untitled + Bar(Ser("<c:tx><c:v>Amount</c:v></c:tx>")), "", "column |  |"},
-      {"no name for several series", Bar(Ser("<c:tx><c:v>A</c:v></c:tx>") + Ser("", 1)), "", "column |  |"},
-      {"a title without a text", "<c:title><c:overlay val=\"0\"/></c:title>" + two, "",
-       "column | Chart Title |"},
+      {"none, and one series without a name", one, "column |  | - | - | hide |"},
+      {"the name of the only series", Bar(Ser("<c:tx><c:v>Amount</c:v></c:tx>")), "column | Amount |"},
+      {"the name from its cell", Bar(Ser(ofCell("A &amp; B"))), "column | A & B |"},
+      {"a removed title", untitled + Bar(Ser("<c:tx><c:v>Amount</c:v></c:tx>")), "column |  |"},
+      {"no name for several series", Bar(Ser("<c:tx><c:v>A</c:v></c:tx>") + Ser("", 1)), "column |  |"},
+      {"a title without a text", title("<c:overlay val=\"0\"/>") + two, "column | Chart Title |"},
       {"runs, breaks and fields",
-       "<c:title>" +
-           Rich(TextRun("Sales ") + TextRun("2025") + "<a:br/><a:fld id=\"x\"><a:t>now</a:t></a:fld>") +
-           "</c:title>" + one,
-       "", "column | Sales 2025\nnow |"},
-      {"paragraphs", "<c:title>" + Rich(TextRun("One") + "</a:p><a:p>" + TextRun("Two")) + "</c:title>" + one,
-       "", "column | One\nTwo |"},
-      {"a title of a cell",
-       "<c:title><c:tx><c:strRef><c:strCache><c:pt "
-       "idx=\"0\"><c:v>Cell</c:v></c:pt></c:strCache></c:strRef></c:tx></c:title>" +
+       title(Rich(TextRun("Sales ") + TextRun("2025") + "<a:br/><a:fld id=\"x\"><a:t>now</a:t></a:fld>")) +
            one,
-       "", "column | Cell |"},
+       "column | Sales 2025\nnow |"},
+      {"paragraphs", title(Rich(TextRun("One") + "</a:p><a:p>" + TextRun("Two"))) + one,
+       "column | One\nTwo |"},
+      {"a title of a cell", title(ofCell("Cell")) + one, "column | Cell |"},
       // axis titles and their fonts
-      {"Excel's defaults", untitled + Bar(Ser(), axes("<c:title>" + Rich(TextRun("L")) + "</c:title>", "")),
-       "", "| L, Calibri 10 Bold 0 | - |"},
-      {"size and colour of the whole chart",
-       untitled + Bar(Ser(), axes("<c:title>" + Rich(TextRun("L")) + "</c:title>", "")),
+      {"Excel's defaults", withAxes(label), "| L, Calibri 10 Bold 0 | - |"},
+      {"size and colour of the whole chart", withAxes(label), "| L, Georgia 14 Bold Italic 255 |",
        Props("sz=\"1400\" i=\"1\">" + FillXml("<a:srgbClr val=\"FF0000\"/>") +
-             "<a:latin typeface=\"Georgia\"/>"),
-       "| L, Georgia 14 Bold Italic 255 |"},
-      {"the paragraph's defaults",
-       untitled +
-           Bar(Ser(), axes("<c:title>" + Rich(TextRun("L"), "<a:pPr><a:defRPr sz=\"800\" b=\"0\"/></a:pPr>") +
-                               "</c:title>",
-                           "")),
-       "", "| L, Calibri 8 Regular 0 |"},
+             "<a:latin typeface=\"Georgia\"/>")},
+      {"the paragraph's defaults", withAxes(title(Rich(TextRun("L"), small))), "| L, Calibri 8 Regular 0 |"},
       {"a run overrides its paragraph",
-       untitled +
-           Bar(Ser(), axes("", "<c:title>" +
-                                   Rich(TextRun("V", "sz=\"1150\" b=\"1\"><a:latin typeface=\"+mj-lt\"/>"),
-                                        "<a:pPr><a:defRPr sz=\"800\" b=\"0\"/></a:pPr>") +
-                                   "</c:title>")),
-       "", "| V, Cambria 11.5 Bold 0 |"},
+       withAxes("", title(Rich(TextRun("V", "sz=\"1150\" b=\"1\"><a:latin typeface=\"+mj-lt\"/>"), small))),
+       "| V, Cambria 11.5 Bold 0 |"},
       {"mixed fonts: the standard font, no colour, no style",
-       untitled +
-           Bar(Ser(), axes("<c:title>" +
-                               Rich(TextRun("A", "sz=\"800\" b=\"0\">") +
-                                    TextRun("B", "sz=\"900\" i=\"1\"><a:latin typeface=\"Georgia\"/>")) +
-                               "</c:title>",
-                           "")),
-       "", "| AB, Calibri 11  0 |"},
-      {"a title of a cell has text properties",
-       untitled + Bar(Ser(), axes("<c:title><c:tx><c:strRef><c:strCache><c:pt "
-                                  "idx=\"0\"><c:v>L</c:v></c:pt></c:strCache></c:strRef></c:tx>" +
-                                      Props("sz=\"700\">") + "</c:title>",
-                                  "")),
-       "", "| L, Calibri 7 Bold 0 |"},
-      {"an axis that is hidden still has its title",
-       untitled + Bar(Ser(), axes("<c:delete val=\"1\"/><c:title>" + Rich(TextRun("L")) + "</c:title>", "")),
-       "", "| L, Calibri 10 Bold 0 |"},
+       withAxes(title(Rich(TextRun("A", "sz=\"800\" b=\"0\">") +
+                           TextRun("B", "sz=\"900\" i=\"1\"><a:latin typeface=\"Georgia\"/>")))),
+       "| AB, Calibri 11  0 |"},
+      {"a title of a cell has text properties", withAxes(title(ofCell("L") + Props("sz=\"700\">"))),
+       "| L, Calibri 7 Bold 0 |"},
+      {"an axis that is hidden still has its title", withAxes("<c:delete val=\"1\"/>" + label),
+       "| L, Calibri 10 Bold 0 |"},
       {"a date axis is the label axis",
-       untitled + Bar(Ser(), "<c:dateAx><c:axId val=\"1\"/><c:title>" + Rich(TextRun("Day")) +
-                                 "</c:title></c:dateAx><c:valAx><c:axId val=\"2\"/></c:valAx>"),
-       "", "| Day, Calibri"},
+       untitled + Bar(Ser(), "<c:dateAx><c:axId val=\"1\"/>" + title(Rich(TextRun("Day"))) +
+                                 "</c:dateAx><c:valAx><c:axId val=\"2\"/></c:valAx>"),
+       "| Day, Calibri"},
       {"axes of the secondary group don't count",
        untitled + "<c:plotArea><c:barChart><c:barDir val=\"col\"/>" + Ser() +
            "<c:axId val=\"1\"/><c:axId val=\"2\"/></c:barChart><c:barChart><c:barDir val=\"col\"/>" +
-           Ser("", 1) +
-           "<c:axId val=\"3\"/><c:axId val=\"4\"/></c:barChart><c:catAx><c:axId "
-           "val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/><c:title>" +
-           Rich(TextRun("Left")) + "</c:title></c:valAx><c:valAx><c:axId val=\"4\"/><c:title>" +
-           Rich(TextRun("Right")) + "</c:title></c:valAx><c:catAx><c:axId val=\"3\"/></c:catAx></c:plotArea>",
-       "", "column |  | - | Left, Calibri"},
+           Ser("", 1) + "<c:axId val=\"3\"/><c:axId val=\"4\"/></c:barChart>" +
+           Axes("", title(Rich(TextRun("Left")))) + "<c:valAx><c:axId val=\"4\"/>" +
+           title(Rich(TextRun("Right"))) + "</c:valAx><c:catAx><c:axId val=\"3\"/></c:catAx></c:plotArea>",
+       "column |  | - | Left, Calibri"},
       // colours
       {"of the theme, lighter",
-       untitled + two + "<c:legend>" +
-           Props(">" + FillXml("<a:schemeClr val=\"tx1\"><a:lumMod val=\"65000\"/><a:lumOff "
-                               "val=\"35000\"/></a:schemeClr>")) +
-           "</c:legend>",
-       "", "show -4152, Calibri 10 Regular 5855577 |"},
-      {"of the chart's own colour map",
-       untitled + two + "<c:legend>" + Props(">" + FillXml("<a:schemeClr val=\"tx1\"/>")) + "</c:legend>",
-       "<c:clrMapOvr tx1=\"accent1\"/>", "Calibri 10 Regular 12419407 |"},
-      {"of the system",
-       untitled + two + "<c:legend>" + Props(">" + FillXml("<a:sysClr val=\"window\" lastClr=\"FEFEFE\"/>")) +
-           "</c:legend>",
-       "", "Calibri 10 Regular 16711422 |"},
-      {"by name",
-       untitled + two + "<c:legend>" + Props(">" + FillXml("<a:prstClr val=\"navy\"/>")) + "</c:legend>", "",
-       "Calibri 10 Regular 8388608 |"},
+       colored("<a:schemeClr val=\"tx1\"><a:lumMod val=\"65000\"/><a:lumOff val=\"35000\"/></a:schemeClr>"),
+       "show -4152, Calibri 10 Regular 5855577 |"},
+      {"of the chart's own colour map", colored("<a:schemeClr val=\"tx1\"/>"),
+       "Calibri 10 Regular 12419407 |", "<c:clrMapOvr tx1=\"accent1\"/>"},
+      {"of the system", colored("<a:sysClr val=\"window\" lastClr=\"FEFEFE\"/>"),
+       "Calibri 10 Regular 16711422 |"},
+      {"by name", colored("<a:prstClr val=\"navy\"/>"), "Calibri 10 Regular 8388608 |"},
       {"modified with invalid numbers",
-       untitled + two + "<c:legend>" +
-           Props(">" +
-                 FillXml("<a:srgbClr val=\"336699\"><a:shade val=\"1e300\"/><a:shade val=\"1e300\"/><a:shade "
-                         "val=\"1e300\"/><a:shade val=\"0\"/></a:srgbClr>")) +
-           "</c:legend>",
-       "", "Calibri 10 Regular 0 |"},
+       colored("<a:srgbClr val=\"336699\"><a:shade val=\"1e300\"/><a:shade val=\"1e300\"/><a:shade "
+               "val=\"1e300\"/><a:shade val=\"0\"/></a:srgbClr>"),
+       "Calibri 10 Regular 0 |"},
       // the legend
-      {"its position", untitled + two + "<c:legend><c:legendPos val=\"b\"/></c:legend>", "", "show -4107,"},
+      {"its position", legend("<c:legendPos val=\"b\"/>"), "show -4107,"},
       {"only its size is set by hand",
-       untitled + two +
-           "<c:legend><c:legendPos val=\"t\"/><c:layout><c:manualLayout><c:w "
-           "val=\"0.3\"/></c:manualLayout></c:layout></c:legend>",
-       "", "show -4160,"},
+       legend("<c:legendPos val=\"t\"/><c:layout><c:manualLayout><c:w val=\"0.3\"/></c:manualLayout>"
+              "</c:layout>"),
+       "show -4160,"},
       {"dragged",
-       untitled + two +
-           "<c:legend><c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x "
-           "val=\"0.5\"/><c:y val=\"0.25\"/></c:manualLayout></c:layout></c:legend>",
-       "", "show at 192,67.5,"},
+       legend("<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x val=\"0.5\"/>"
+              "<c:y val=\"0.25\"/></c:manualLayout></c:layout>"),
+       "show at 192,67.5,"},
       {"an entry that is red",
-       untitled + two + "<c:legend><c:legendEntry><c:idx val=\"1\"/>" +
-           Props("sz=\"1000\">" + FillXml("<a:srgbClr val=\"FF0000\"/>")) + "</c:legendEntry></c:legend>",
-       "", "show -4152, Calibri 10 Regular  |"},
-      {"a deleted entry",
-       untitled + two +
-           "<c:legend><c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/></c:legendEntry></c:legend>",
-       "", "show -4152, Calibri 10 Regular 0 |"},
+       legend("<c:legendEntry><c:idx val=\"1\"/>" +
+              Props("sz=\"1000\">" + FillXml("<a:srgbClr val=\"FF0000\"/>")) + "</c:legendEntry>"),
+       "show -4152, Calibri 10 Regular  |"},
+      {"a deleted entry", legend("<c:legendEntry><c:idx val=\"1\"/><c:delete val=\"1\"/></c:legendEntry>"),
+       "show -4152, Calibri 10 Regular 0 |"},
       // labels
-      {"of the series", labels(Props("sz=\"800\" b=\"1\">") + shown), "", "| values Calibri 8 Bold 0"},
-      {"of the group", Bar(Ser() + "<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>"), "",
+      {"of the series", labels(Props("sz=\"800\" b=\"1\">") + shown), "| values Calibri 8 Bold 0"},
+      {"of the group", Bar(Ser() + "<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>"),
        "| values Calibri 8 Regular 0"},
       {"of the group, but removed by the series",
-       Bar(Ser("<c:dLbls><c:delete val=\"1\"/></c:dLbls>") + "<c:dLbls>" + shown + "</c:dLbls>"), "",
+       Bar(Ser("<c:dLbls><c:delete val=\"1\"/></c:dLbls>") + "<c:dLbls>" + shown + "</c:dLbls>"),
        "| Arial 9 Regular 0"},
-      {"nothing shown", labels("<c:showVal val=\"0\"/><c:showPercent val=\"0\"/>"), "",
-       "| Arial 9 Regular 0"},
+      {"nothing shown", labels("<c:showVal val=\"0\"/><c:showPercent val=\"0\"/>"), "| Arial 9 Regular 0"},
       {"a single point's",
        labels("<c:dLbl><c:idx val=\"1\"/>" + Props("sz=\"2000\">") + shown +
               "</c:dLbl><c:showVal val=\"0\"/>"),
-       "", "| values Calibri 9 Regular 0"},
-      {"value with category", labels("<c:showVal val=\"1\"/><c:showCatName val=\"1\"/>"), "",
-       "| values Calibri"},
-      {"a value element without an attribute is true", labels("<c:showVal/>"), "", "| values Calibri"},
-      {"names only", labels("<c:showSerName val=\"1\"/>"), "", "| Calibri 10 Regular 0"},
+       "| values Calibri 9 Regular 0"},
+      {"value with category", labels(shown + "<c:showCatName val=\"1\"/>"), "| values Calibri"},
+      {"a value element without an attribute is true", labels("<c:showVal/>"), "| values Calibri"},
+      {"names only", labels("<c:showSerName val=\"1\"/>"), "| Calibri 10 Regular 0"},
       {"the least frequent font, the first of several",
-       Bar(Ser("<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>") +
-           Ser("<c:dLbls>" + Props("sz=\"700\">") + shown + "</c:dLbls>", 1) +
-           Ser("<c:dLbls>" + Props("sz=\"800\">") + shown + "</c:dLbls>", 2) +
-           Ser("<c:dLbls>" + Props("sz=\"600\">") + shown + "</c:dLbls>", 3)),
-       "", "| values Calibri 7 Regular 0"},
+       Bar(sized("800", 0) + sized("700", 1) + sized("800", 2) + sized("600", 3)),
+       "| values Calibri 7 Regular 0"},
       // the number format
-      {"linked", Bar(Ser(), axes("", "<c:numFmt formatCode=\"0.00\" sourceLinked=\"1\"/>")), "",
-       "Arial 9 Regular 0"},
-      {"typed by hand", Bar(Ser(), axes("", "<c:numFmt formatCode=\"0.00\" sourceLinked=\"0\"/>")), "",
-       "Arial 9 Regular 0 | 0.00"},
-      {"not of a hidden axis",
-       Bar(Ser(), axes("", "<c:delete val=\"1\"/><c:numFmt formatCode=\"0.00\" sourceLinked=\"0\"/>")), "",
+      {"linked", Bar(Ser(), Axes("", format("1"))), "Arial 9 Regular 0"},
+      {"typed by hand", Bar(Ser(), Axes("", format("0"))), "Arial 9 Regular 0 | 0.00"},
+      {"not of a hidden axis", Bar(Ser(), Axes("", "<c:delete val=\"1\"/>" + format("0"))),
        "Arial 9 Regular 0"},
   };
   for (const Case& c : cases) {
@@ -302,9 +262,7 @@ TEST_F(ReadBackTest, EquivalentChartParts) {
 }
 
 TEST_F(ReadBackTest, SomeChartsKeepTheFormat) {
-  const S chart = Bar(Ser(),
-                      "<c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/><c:numFmt "
-                      "formatCode=\"0.00\" sourceLinked=\"0\"/></c:valAx>");
+  const S chart = Bar(Ser(), Axes("", "<c:numFmt formatCode=\"0.00\" sourceLinked=\"0\"/>"));
   struct {
     const char *type, *setting, *format;
   } const cases[] = {{"column", "stacked", "0.00"},
@@ -437,8 +395,7 @@ S Persisted(const S& keys, const S& values) {
 TEST_F(ReadBackTest, TheWholeDefinitionAfterwards) {
   const S red = FillXml("<a:srgbClr val=\"FF0000\"/>"), serif = "<a:latin typeface=\"Georgia\"/>";
   const S shown = "<c:showVal val=\"1\"/>", shares = "<c:showPercent val=\"1\"/>";
-  const S axes = "<c:catAx><c:axId val=\"1\"/><c:title>" + Rich(TextRun("Regions")) +
-                 "</c:title></c:catAx><c:valAx><c:axId val=\"2\"/></c:valAx>";
+  const S axes = Axes("<c:title>" + Rich(TextRun("Regions")) + "</c:title>");
   const auto bucket = [&](const S& valueLabels) {
     const S ends = "<c:axId val=\"1\"/><c:axId val=\"2\"/>";
     return "<c:plotArea><c:barChart><c:barDir val=\"col\"/><c:grouping val=\"stacked\"/>" + Ser() + ends +
@@ -447,9 +404,7 @@ TEST_F(ReadBackTest, TheWholeDefinitionAfterwards) {
                "<c:dLbls>" +
                    valueLabels + shown + "</c:dLbls>",
                1) +
-           ends +
-           "</c:lineChart><c:catAx><c:axId val=\"1\"/></c:catAx><c:valAx><c:axId val=\"2\"/></c:valAx>"
-           "</c:plotArea>";
+           ends + "</c:lineChart>" + Axes() + "</c:plotArea>";
   };
   const S none = "size= name= color= style= autoscale=";
   const S usual = "size=10 name=Calibri color=0 style=Bold autoscale=True";

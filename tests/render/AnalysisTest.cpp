@@ -1,5 +1,4 @@
 #include "render/model/Analysis.h"
-#include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
 
 namespace plotsmith {
@@ -11,11 +10,12 @@ using render::TrendKind;
 
 const S kZeroToTen = ScalingXml("0", "10");
 
-/// Error bars of a kind with an amount.
-S ErrorBarsXml(const S& kind, const S& amount, const S& more = "", const S& ends = "both") {
+/// Error bars of a kind with an amount. `look` is their last element.
+S ErrorBarsXml(const S& kind, const S& amount, const S& more = "", const S& ends = "both",
+               const S& look = "") {
   return "<c:errBars>" + (more.find("errDir") == S::npos ? "<c:errDir val=\"y\"/>" : S()) +
          "<c:errBarType val=\"" + ends + "\"/><c:errValType val=\"" + kind + "\"/>" + more + "<c:val val=\"" +
-         amount + "\"/></c:errBars>";
+         amount + "\"/>" + look + "</c:errBars>";
 }
 
 S TrendXml(const S& type, const S& more = "") {
@@ -71,12 +71,10 @@ TEST_F(AnalysisTest, ErrorBarsReachAsFarAsTheirAmounts) {
 }
 
 TEST_F(AnalysisTest, ErrorBarsHaveTheirPlaceLineAndCaps) {
-  const S line =
-      "<c:spPr><a:ln w=\"25400\"><a:solidFill><a:srgbClr val=\"00B050\"/></a:solidFill></a:ln></c:spPr>";
   for (const bool caps : {true, false}) {
-    S bars = ErrorBarsXml("fixedVal", "1", S("<c:noEndCap val=\"") + (caps ? "0" : "1") + "\"/>");
-    bars.insert(bars.size() - S("</c:errBars>").size(), line);
-    const Drawing drawing = DrawColumns({2, 4}, bars);
+    const S noCap = S("<c:noEndCap val=\"") + (caps ? "0" : "1") + "\"/>";
+    const Drawing drawing =
+        DrawColumns({2, 4}, ErrorBarsXml("fixedVal", "1", noCap, "both", LookXml("", SolidXml("00B050"))));
     const auto items = ItemsOf(drawing, Role::kErrorBar, 1);
     ASSERT_EQ(items.size(), 2u);
     for (std::size_t i = 0; i < 2; ++i) {
@@ -125,40 +123,25 @@ TEST_F(AnalysisTest, CurvesAreFoundByLeastSquares) {
     return all;
   };
   const auto linear = points([](double x) { return 2.5 * x - 3; });
+  const auto sixth = [](double x) { return std::pow(x, 6) - 2 * x * x + 1; };
   struct {
     TrendKind kind;
-    std::size_t order;
-    std::optional<double> intercept;
     std::pair<Numbers, Numbers> points;
     S equation;
-    double determination;
+    std::optional<double> intercept = {};
+    double determination = 1;
+    std::size_t order = 2;
   } const kCases[] = {
-      {TrendKind::kLinear, 2, {}, linear, "y = 2.5x - 3", 1},
+      {TrendKind::kLinear, linear, "y = 2.5x - 3"},
       // The sums of x * x, x * y and y * y are 285, 577.5 and 1187.25. The variance of y is 375 / 9.
-      {TrendKind::kLinear, 2, 0.0, linear, "y = 2.0263x", 1 - 17.052632 / 375},
-      {TrendKind::kLinear, 2, {}, {{1, 2, 3, 4}, {2, 1, 4, 3}}, "y = 0.6x + 1", 0.36},
-      {TrendKind::kLogarithmic,
-       2,
-       {},
-       points([](double x) { return 4 * std::log(x) + 7; }),
-       "y = 4ln(x) + 7",
-       1},
-      {TrendKind::kExponential,
-       2,
-       {},
-       points([](double x) { return 3 * std::exp(0.25 * x); }),
-       "y = 3e^0.25x",
-       1},
-      {TrendKind::kExponential, 2, 3.0, points([](double x) { return 3 * std::exp(-0.5 * x); }),
-       "y = 3e^-0.5x", 1},
-      {TrendKind::kPower, 2, {}, points([](double x) { return 5 * std::pow(x, 1.5); }), "y = 5x^1.5", 1},
-      {TrendKind::kPolynomial, 2, {}, points([](double x) { return -x * x + 4 * x; }), "y = -x² + 4x", 1},
-      {TrendKind::kPolynomial,
-       6,
-       {},
-       points([](double x) { return std::pow(x, 6) - 2 * x * x + 1; }),
-       "y = x⁶ - 2x² + 1",
-       1},
+      {TrendKind::kLinear, linear, "y = 2.0263x", 0.0, 1 - 17.052632 / 375},
+      {TrendKind::kLinear, {{1, 2, 3, 4}, {2, 1, 4, 3}}, "y = 0.6x + 1", {}, 0.36},
+      {TrendKind::kLogarithmic, points([](double x) { return 4 * std::log(x) + 7; }), "y = 4ln(x) + 7"},
+      {TrendKind::kExponential, points([](double x) { return 3 * std::exp(0.25 * x); }), "y = 3e^0.25x"},
+      {TrendKind::kExponential, points([](double x) { return 3 * std::exp(-0.5 * x); }), "y = 3e^-0.5x", 3.0},
+      {TrendKind::kPower, points([](double x) { return 5 * std::pow(x, 1.5); }), "y = 5x^1.5"},
+      {TrendKind::kPolynomial, points([](double x) { return -x * x + 4 * x; }), "y = -x² + 4x"},
+      {TrendKind::kPolynomial, points(sixth), "y = x⁶ - 2x² + 1", {}, 1, 6},
   };
   for (const auto& test : kCases) {
     const auto curve = FitTrend(test.kind, test.order, test.intercept, test.points.first, test.points.second);
@@ -214,9 +197,7 @@ TEST_F(AnalysisTest, NumbersInEquationsHaveFiveDigits) {
 }
 
 TEST_F(AnalysisTest, TrendlinesGoThroughTheirPointsAndBeyond) {
-  const S line =
-      "<c:name>Trend</c:name><c:spPr><a:ln w=\"38100\"><a:solidFill><a:srgbClr val=\"7030A0\"/>"
-      "</a:solidFill></a:ln></c:spPr>";
+  const S line = "<c:name>Trend</c:name>" + LookXml("", SolidXml("7030A0"));
   S trend = TrendXml("linear", "<c:forward val=\"2\"/><c:backward val=\"0.5\"/>");
   trend.insert(S("<c:trendline>").size(), line);
   const Drawing drawing = DrawColumns({2, 4, 6}, trend);
@@ -225,7 +206,7 @@ TEST_F(AnalysisTest, TrendlinesGoThroughTheirPointsAndBeyond) {
   ASSERT_EQ(items.size(), 1u);
   const auto& path = std::get<PathItem>(items[0].content);
   EXPECT_EQ(HexOf(path.stroke.color), "#7030A0");
-  EXPECT_EQ(path.stroke.width, 3);
+  EXPECT_EQ(path.stroke.width, 2);
   // five places: three categories, and two for the forecast, of which half a place is free
   const Rect plot = BoxOf(drawing, Role::kPlotArea), box = path.path.Bounds();
   EXPECT_NEAR(BoxesOf(drawing, Role::kBar)[0].Center().x, plot.left + plot.width / 10, 1e-6);
@@ -268,9 +249,8 @@ TEST_F(AnalysisTest, TrendlinesSayTheirEquationAndHaveLegendEntries) {
 }
 
 TEST_F(AnalysisTest, UpDownBarsGoFromTheFirstSeriesToTheLast) {
-  const S bars =
-      "<c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars><c:spPr><a:solidFill>"
-      "<a:srgbClr val=\"C00000\"/></a:solidFill></c:spPr></c:downBars></c:upDownBars>";
+  const S bars = "<c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars>" +
+                 LookXml(SolidXml("C00000")) + "</c:downBars></c:upDownBars>";
   const Drawing drawing = Draw(PlotXml(
       LinesXml(SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}), bars) +
       AxesXml("", kZeroToTen)));
@@ -295,10 +275,9 @@ TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
 }
 
 TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
-  const S axes = DateAxesXml();
   const S trend = TrendXml("linear", "<c:forward val=\"4\"/><c:dispEq val=\"1\"/>");
   const S series = SeriesXml(0, {1, 2, 3}, trend, "", NumbersXml("cat", {45000, 45001, 45002}));
-  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + axes));
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + DateAxesXml()));
   // seven days, of which the last one is the end of the line
   const Rect plot = BoxOf(drawing, Role::kPlotArea), line = BoxOf(drawing, Role::kTrendline);
   EXPECT_NEAR(BoxesOf(drawing, Role::kBar)[0].Center().x, plot.left + plot.width / 14, 1e-6);
@@ -313,61 +292,26 @@ TEST_F(AnalysisTest, DatesBeginEarlierForTrendlines) {
   };
   struct {
     const char* what;
-    S first, second;     // the trendlines of two series
-    Numbers dates;       // the dates of three points
+    S first, second;     // the backward lengths of the trendlines of two series
     double slots, bars;  // the number of slots, and of those before the first bar
     double from, other;  // the places in slots where the lines begin
-    Texts equations;
+    Numbers dates = {45000, 45001, 45002};
+    Texts equations = {"y = x - 44999", "y = -x + 45003"};
   } const kCases[] = {
-      {"nothing before",
-       back("0"),
-       back("0"),
-       {45000, 45001, 45002},
-       3,
-       0,
-       0,
-       0,
-       {"y = x - 44999", "y = -x + 45003"}},
-      {"half a day",
-       back("0.5"),
-       back("0"),
-       {45000, 45001, 45002},
-       3,
-       0,
-       -0.5,
-       0,
-       {"y = x - 44999", "y = -x + 45003"}},
-      {"days", back("3"), back("1"), {45000, 45001, 45002}, 6, 3, 0, 2, {"y = x - 44999", "y = -x + 45003"}},
-      {"the second line",
-       back("0"),
-       back("1.2"),
-       {45000, 45001, 45002},
-       4,
-       1,
-       1,
-       -0.2,
-       {"y = x - 44999", "y = -x + 45003"}},
-      {"months", back("2"), back("0"), {45292, 45323, 45352}, 5, 2, 0, 2, {"y = x", "y = -x + 4"}},
-      {"before the first date of Excel",
-       back("1e300"),
-       back("0"),
-       {2, 3, 4},
-       5,
-       2,
-       -0.5,
-       2,
-       {"y = x - 1", "y = -x + 5"}},
+      {"nothing before", "0", "0", 3, 0, 0, 0},
+      {"half a day", "0.5", "0", 3, 0, -0.5, 0},
+      {"days", "3", "1", 6, 3, 0, 2},
+      {"the second line", "0", "1.2", 4, 1, 1, -0.2},
+      {"months", "2", "0", 5, 2, 0, 2, {45292, 45323, 45352}, {"y = x", "y = -x + 4"}},
+      {"before the first date", "1e300", "0", 5, 2, -0.5, 2, {2, 3, 4}, {"y = x - 1", "y = -x + 5"}},
   };
-  S axes = AxesXml("<c:numFmt formatCode=\"yyyy-mm-dd\" sourceLinked=\"0\"/>",
-                   "<c:scaling><c:max val=\"10\"/><c:min val=\"-10\"/></c:scaling>");
-  axes = runtime::Replace(axes, "catAx", "dateAx");
+  const S axes =
+      DateAxesXml("<c:numFmt formatCode=\"yyyy-mm-dd\" sourceLinked=\"0\"/>", ScalingXml("-10", "10"));
   for (const auto& test : kCases) {
     const S dates = NumbersXml("cat", test.dates);
-    const Drawing drawing =
-        Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/><c:overlap val=\"100\"/>",
-                              SeriesXml(0, {1, 2, 3}, test.first, "", dates) +
-                                  SeriesXml(1, {3, 2, 1}, test.second, "", dates)) +
-                     axes));
+    const S series = SeriesXml(0, {1, 2, 3}, back(test.first), "", dates) +
+                     SeriesXml(1, {3, 2, 1}, back(test.second), "", dates);
+    const Drawing drawing = Draw(PlotXml(ColumnsXml(series, "<c:overlap val=\"100\"/>") + axes));
     const Rect plot = BoxOf(drawing, Role::kPlotArea);
     const auto slotAt = [&](double x) { return (x - plot.left) / plot.width * test.slots - 0.5; };
     EXPECT_NEAR(slotAt(BoxesOf(drawing, Role::kBar, 1)[0].Center().x), test.bars, 1e-6) << test.what;
@@ -384,47 +328,40 @@ TEST_F(AnalysisTest, LegendsHaveEntriesOfDrawnTrendlinesOnly) {
   const S unfit = "A trendline isn't drawn because no line of its kind fits the points of its series.";
   const S longest = "A moving average isn't drawn because its period isn't shorter than its series.";
   const S beyond = "A trendline isn't drawn because fewer than two of its points are on the axes.";
-  const auto scale = [](const S& least, const S& most, const S& more = "") {
-    return "<c:scaling>" + more + "<c:max val=\"" + most + "\"/><c:min val=\"" + least + "\"/></c:scaling>";
-  };
+  const S linear = TrendXml("linear"), average = TrendXml("movingAvg");
   struct {
     const char* what;
-    S trend, axis;
+    S trend;
     Numbers values;
-    bool isDrawn;
-    render::Notes notes;
+    render::Notes notes;  // why the line isn't drawn
+    S axis = kZeroToTen;
   } const kCases[] = {
-      {"drawn", TrendXml("linear"), kZeroToTen, {1, 2, 3}, true, {}},
-      {"a value of zero at the edge", TrendXml("linear"), kZeroToTen, {0, 0, 0}, true, {}},
-      {"no logarithm", TrendXml("exp"), kZeroToTen, {1, -2, 3}, false, {unfit}},
-      {"a long period",
-       TrendXml("movingAvg", "<c:period val=\"3\"/>"),
-       kZeroToTen,
-       {1, 2, 3},
-       false,
-       {longest}},
-      {"a moving average", TrendXml("movingAvg"), kZeroToTen, {1, 2, 3, 4}, true, {}},
-      {"without neighbours", TrendXml("movingAvg"), kZeroToTen, {1, 2, kNoValue, 4}, false, {beyond}},
-      {"below the axis", TrendXml("linear"), scale("4", "10"), {1, 2, 3}, false, {beyond}},
-      {"above the axis", TrendXml("linear"), scale("0", "1"), {2, 2, 3}, false, {beyond}},
-      {"steep across the axis", TrendXml("linear"), scale("-1", "1"), {-1e9, 1e9}, true, {}},
+      {"drawn", linear, {1, 2, 3}, {}},
+      {"a value of zero at the edge", linear, {0, 0, 0}, {}},
+      {"no logarithm", TrendXml("exp"), {1, -2, 3}, {unfit}},
+      {"a long period", TrendXml("movingAvg", "<c:period val=\"3\"/>"), {1, 2, 3}, {longest}},
+      {"a moving average", average, {1, 2, 3, 4}, {}},
+      {"without neighbours", average, {1, 2, kNoValue, 4}, {beyond}},
+      {"below the axis", linear, {1, 2, 3}, {beyond}, ScalingXml("4", "10")},
+      {"above the axis", linear, {2, 2, 3}, {beyond}, ScalingXml("0", "1")},
+      {"steep across the axis", linear, {-1e9, 1e9}, {}, ScalingXml("-1", "1")},
       {"no logarithm on the axis",
-       TrendXml("movingAvg"),
-       scale("1", "10", "<c:logBase val=\"10\"/>"),
+       average,
        {-1, -2, -3},
-       false,
-       {beyond}},
+       {beyond},
+       ScalingXml("1", "10", "<c:logBase val=\"10\"/>")},
   };
   for (const auto& test : kCases) {
     const S deletedLast = "<c:legendEntry><c:idx val=\"3\"/><c:delete val=\"1\"/></c:legendEntry>";
-    const Drawing drawing = DrawGroup("lineChart", "<c:grouping val=\"standard\"/>",
-                                      SeriesXml(0, test.values, test.trend) +
-                                          SeriesXml(1, {1, 5, 9}, TrendXml("linear") + TrendXml("linear")),
-                                      test.axis, "<c:legend>" + deletedLast + "</c:legend>");
-    Texts entries = TextsOf(drawing, Role::kLegendEntry);
-    EXPECT_EQ(entries.size(), test.isDrawn ? 4u : 3u) << test.what;
+    const Drawing drawing =
+        DrawGroup("lineChart", "<c:grouping val=\"standard\"/>",
+                  SeriesXml(0, test.values, test.trend) + SeriesXml(1, {1, 5, 9}, linear + linear), test.axis,
+                  "<c:legend>" + deletedLast + "</c:legend>");
+    const Texts entries = TextsOf(drawing, Role::kLegendEntry);
+    const bool isDrawn = test.notes.empty();
+    EXPECT_EQ(entries.size(), isDrawn ? 4u : 3u) << test.what;
     EXPECT_EQ(entries.back(), "Linear (Series 1)") << test.what;
-    EXPECT_EQ(ItemsOf(drawing, Role::kTrendline, 1).size(), test.isDrawn ? 1u : 0u) << test.what;
+    EXPECT_EQ(ItemsOf(drawing, Role::kTrendline, 1).size(), isDrawn ? 1u : 0u) << test.what;
     EXPECT_EQ(notes_, test.notes) << test.what;
   }
 }
@@ -470,19 +407,14 @@ TEST_F(AnalysisTest, SteepLinesCrossThePlotAreaWhereTheyPassItsValues) {
 }
 
 TEST_F(AnalysisTest, LabelsOfTrendlinesAreAtTheirEndOrWhereTheirLayoutSays) {
-  const auto draw = [&](const S& mode, const S& x, const S& y) {
-    const S layout = mode.empty() ? ""
-                                  : "<c:layout><c:manualLayout><c:xMode val=\"" + mode +
-                                        "\"/><c:yMode val=\"" + mode + "\"/><c:x val=\"" + x +
-                                        "\"/><c:y val=\"" + y + "\"/></c:manualLayout></c:layout>";
-    return DrawColumns({2, 4},
-                       TrendXml("linear", "<c:dispEq val=\"1\"/><c:trendlineLbl>" + layout + "<c:spPr>" +
-                                              SolidXml("FFFFCC") + "</c:spPr></c:trendlineLbl>"));
+  const auto draw = [&](const S& layout) {
+    return DrawColumns({2, 4}, TrendXml("linear", "<c:dispEq val=\"1\"/><c:trendlineLbl>" + layout +
+                                                      LookXml(SolidXml("FFFFCC")) + "</c:trendlineLbl>"));
   };
   const auto frameOf = [](const Drawing& drawing) {
     return BoundsOf(ItemsOf(drawing, Role::kTrendlineLabel)[0]);
   };
-  const Drawing usual = draw("", "", "");
+  const Drawing usual = draw("");
   const Rect own = frameOf(usual), line = BoxOf(usual, Role::kTrendline);
   EXPECT_NEAR(own.Right(), line.Right(), 1e-6);
   EXPECT_NEAR(own.Bottom(), line.top - 4, 1e-6);
@@ -497,7 +429,7 @@ TEST_F(AnalysisTest, LabelsOfTrendlinesAreAtTheirEndOrWhereTheirLayoutSays) {
       {"edge", "-9", "-9", 0, 0},
   };
   for (const auto& test : kCases) {
-    const Drawing drawing = draw(test.mode, test.x, test.y);
+    const Drawing drawing = draw(LayoutXml(test.mode, test.x, test.y));
     const Rect frame = frameOf(drawing);
     EXPECT_NEAR(frame.left, test.left, 1e-6) << test.mode << test.x;
     EXPECT_NEAR(frame.top, test.top, 1e-6) << test.mode << test.y;
@@ -529,12 +461,10 @@ TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
 TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
   const S longest = "A moving average isn't drawn because its period isn't shorter than its series.";
   const S shadow =
-      "<c:spPr><a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst></c:spPr>";
+      LookXml("<a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst>");
   const auto average = [](int period) {
     return TrendXml("movingAvg", "<c:period val=\"" + std::to_string(period) + "\"/>");
   };
-  S shadowed = ErrorBarsXml("fixedVal", "1");
-  shadowed.insert(shadowed.size() - S("</c:errBars>").size(), shadow);
   struct {
     S more, axis;
     render::Notes notes;
@@ -545,7 +475,7 @@ TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
       {ErrorBarsXml("fixedVal", "1", "<c:errDir val=\"x\"/>"),
        "",
        {"Error bars along a category axis aren't drawn."}},
-      {shadowed, "", {"Shadows of error bars aren't drawn."}},
+      {ErrorBarsXml("fixedVal", "1", "", "both", shadow), "", {"Shadows of error bars aren't drawn."}},
       {"", "<c:majorGridlines>" + shadow + "</c:majorGridlines>", {"Shadows of gridlines aren't drawn."}},
       {"", shadow, {"Shadows of axes aren't drawn."}},
   };

@@ -104,42 +104,29 @@ TEST_F(DrawingTest, BarsOverlapOrHaveGapsByAShareOfTheirWidth) {
 }
 
 TEST_F(DrawingTest, BarsBelowZeroAreInvertedIfTheFileSaysSo) {
-  const auto solid = [](const S& color) {
-    return "<c:spPr><a:solidFill><a:srgbClr val=\"" + color + "\"/></a:solidFill></c:spPr>";
-  };
+  const S red = LookXml(SolidXml("FF0000")), green = LookXml(SolidXml("00FF00"));
   const S invert = "<c:invertIfNegative val=\"1\"/>", keep = "<c:invertIfNegative val=\"0\"/>";
   const S yellow =
       "<c:extLst><c:ext uri=\"{6F2FDCE9-48DA-4B69-8628-5D25D57E5C99}\" "
       "xmlns:c14=\"http://schemas.microsoft.com/office/drawing/2007/8/2/chart\"><c14:invertSolidFillFmt>"
-      "<c14:spPr><a:solidFill><a:srgbClr val=\"FFFF00\"/></a:solidFill></c14:spPr></c14:invertSolidFillFmt>"
-      "</c:ext></c:extLst>";
+      "<c14:spPr>" +
+      SolidXml("FFFF00") + "</c14:spPr></c14:invertSolidFillFmt></c:ext></c:extLst>";
   const auto point = [](int index, const S& more) {
     return "<c:dPt><c:idx val=\"" + std::to_string(index) + "\"/>" + more + "</c:dPt>";
   };
   struct {
     const char* what;
-    S group, series, behind;
+    S series;
     Texts fills;  // The fills for the values 4, -3 and -1.
+    S behind = "", group = "";
   } cases[] = {
-      {"as it is", "", solid("FF0000") + keep, "", {"#FF0000", "#FF0000", "#FF0000"}},
-      {"white", "", solid("FF0000") + invert, "", {"#FF0000", "#FFFFFF", "#FFFFFF"}},
-      {"a colour", "", solid("FF0000") + invert, yellow, {"#FF0000", "#FFFF00", "#FFFF00"}},
-      {"a colour that isn't asked for",
-       "",
-       solid("FF0000") + keep,
-       yellow,
-       {"#FF0000", "#FF0000", "#FF0000"}},
-      {"a colour of a point",
-       "",
-       solid("FF0000") + invert + point(1, solid("00FF00")),
-       "",
-       {"#FF0000", "#00FF00", "#FFFFFF"}},
-      {"a point that isn't inverted",
-       "",
-       solid("FF0000") + invert + point(2, keep),
-       "",
-       {"#FF0000", "#FFFFFF", "#FF0000"}},
-      {"varied colours", "<c:varyColors val=\"1\"/>", invert, "", {"#4F81BD", "#FFFFFF", "#FFFFFF"}},
+      {"as it is", red + keep, {"#FF0000", "#FF0000", "#FF0000"}},
+      {"white", red + invert, {"#FF0000", "#FFFFFF", "#FFFFFF"}},
+      {"a colour", red + invert, {"#FF0000", "#FFFF00", "#FFFF00"}, yellow},
+      {"a colour that isn't asked for", red + keep, {"#FF0000", "#FF0000", "#FF0000"}, yellow},
+      {"a colour of a point", red + invert + point(1, green), {"#FF0000", "#00FF00", "#FFFFFF"}},
+      {"a point that isn't inverted", red + invert + point(2, keep), {"#FF0000", "#FFFFFF", "#FF0000"}},
+      {"varied colours", invert, {"#4F81BD", "#FFFFFF", "#FFFFFF"}, "", "<c:varyColors val=\"1\"/>"},
   };
   for (const auto& test : cases) {
     for (const S kind : {"barChart", "bar3DChart"}) {

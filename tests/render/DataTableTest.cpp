@@ -48,9 +48,8 @@ TEST_F(DataTableTest, HasACellBelowEachValue) {
 }
 
 TEST_F(DataTableTest, HasTheLinesKeysAndFontOfItsElement) {
-  const S look =
-      "<c:spPr><a:ln w=\"19050\"><a:solidFill><a:srgbClr val=\"0070C0\"/></a:solidFill></a:ln></c:spPr>"
-      "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr sz=\"800\" b=\"1\"/></a:pPr></a:p></c:txPr>";
+  const S look = LookXml("", SolidXml("0070C0")) +
+                 "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr sz=\"800\" b=\"1\"/></a:pPr></a:p></c:txPr>";
   struct {
     S table;
     std::size_t moves;  // The lines of the table.
@@ -68,7 +67,7 @@ TEST_F(DataTableTest, HasTheLinesKeysAndFontOfItsElement) {
     for (const auto& item : ItemsOf(drawing, Role::kTableLine)) {
       const auto& path = std::get<PathItem>(item.content);
       EXPECT_EQ(HexOf(path.stroke.color), "#0070C0");
-      EXPECT_EQ(path.stroke.width, 1.5);
+      EXPECT_EQ(path.stroke.width, 2);
       for (const PathStep& step : path.path.Steps()) moves += step.kind == PathStep::Kind::kMove;
     }
     EXPECT_EQ(moves, test.moves) << test.table;

@@ -126,12 +126,32 @@ S DateAxesXml(const S& category, const S& value) {
   return runtime::Replace(AxesXml(category, value), "catAx", "dateAx");
 }
 
+S DepthAxisXml() { return AxisXml("serAx", 3, 1, "b", ""); }
+
 S ScalingXml(const S& least, const S& most, const S& more) {
   return "<c:scaling>" + more + "<c:max val=\"" + most + "\"/><c:min val=\"" + least + "\"/></c:scaling>";
 }
 
 S SolidXml(const S& color, const S& more) {
   return "<a:solidFill><a:srgbClr val=\"" + color + "\">" + more + "</a:srgbClr></a:solidFill>";
+}
+
+S LookXml(const S& fill, const S& line) {
+  return "<c:spPr>" + fill + (line.empty() ? "" : "<a:ln w=\"25400\">" + line + "</a:ln>") + "</c:spPr>";
+}
+
+S BodyXml(const S& attributes) {
+  return "<c:txPr><a:bodyPr " + attributes + "/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
+}
+
+S TitleXml(const S& text, const S& more) {
+  return "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>" + text + "</a:t></a:r></a:p></c:rich></c:tx>" +
+         more + "</c:title>";
+}
+
+S LayoutXml(const S& mode, const S& x, const S& y, const S& more) {
+  return "<c:layout><c:manualLayout><c:xMode val=\"" + mode + "\"/><c:yMode val=\"" + mode +
+         "\"/><c:x val=\"" + x + "\"/><c:y val=\"" + y + "\"/>" + more + "</c:manualLayout></c:layout>";
 }
 
 S ColumnsXml(const S& series, const S& last, const S& grouping, const S& direction) {
@@ -152,6 +172,11 @@ S PlotXml(const S& content, const S& behind) {
   return "<c:autoTitleDeleted val=\"1\"/><c:plotArea>" + content + "</c:plotArea>" + behind;
 }
 
+S Plot3DXml(const S& view, const S& content, const S& behind) {
+  return "<c:autoTitleDeleted val=\"1\"/><c:view3D>" + view + "</c:view3D><c:plotArea>" + content +
+         "</c:plotArea>" + behind;
+}
+
 render::TextExtent EvenMeasure::Measure(std::string_view line, const render::Font& font) const {
   return {0.5 * font.size * static_cast<double>(runtime::Len(line)), 0.75 * font.size, 0.25 * font.size};
 }
@@ -165,15 +190,24 @@ Drawing DrawingTest::Draw(const S& chart, const S& behind, double width, double 
   return DrawPart(ChartPartXml(chart, behind), width, height);
 }
 
-Drawing DrawingTest::DrawPart(const S& chartPart, double width, double height) {
-  OpenChart(chartPart);
-  for (const S& part : Book().Package().Parts()) {
-    if (part.find("/charts/chart") == S::npos || !part.ends_with(".xml")) continue;
-    notes_.clear();
-    return render::DrawChart(*Book().Chart(part), width, height, SharedFonts(), notes_);
-  }
-  ADD_FAILURE() << "the workbook has no chart part";
-  return {};
+Drawing DrawingTest::DrawPart(const S& part, double width, double height) {
+  OpenChart(part);
+  return DrawOpen(width, height);
+}
+
+void DrawingTest::OpenShapes(const S& anchors, const S& chart) {
+  OpenChart(ChartPartXml(chart,
+                         "<c:userShapes r:id=\"rId7\" "
+                         "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"/>"),
+            "<c:userShapes xmlns:c=\"http://schemas.openxmlformats.org/drawingml/2006/chart\" "
+            "xmlns:cdr=\"http://schemas.openxmlformats.org/drawingml/2006/chartDrawing\" "
+            "xmlns:a=\"http://schemas.openxmlformats.org/drawingml/2006/main\">" +
+                anchors + "</c:userShapes>");
+}
+
+Drawing DrawingTest::DrawOpen(double width, double height) {
+  notes_.clear();
+  return render::DrawChart(*Book().Chart("/xl/charts/chart1.xml"), width, height, SharedFonts(), notes_);
 }
 
 std::vector<Item> ItemsOf(const Drawing& drawing, Role role, int series) {
@@ -210,6 +244,27 @@ S FillOf(const Item& item) {
   const auto* path = std::get_if<PathItem>(&item.content);
   const auto* solid = path == nullptr ? nullptr : std::get_if<render::SolidFill>(&path->fill);
   return solid == nullptr ? "none" : HexOf(solid->color);
+}
+
+void ExpectNear(const Rect& actual, const Rect& expected, const S& what, double slack) {
+  EXPECT_NEAR(actual.left, expected.left, slack) << what;
+  EXPECT_NEAR(actual.top, expected.top, slack) << what;
+  EXPECT_NEAR(actual.width, expected.width, slack) << what;
+  EXPECT_NEAR(actual.height, expected.height, slack) << what;
+}
+
+S OverlapComplaints(const Drawing& drawing, Role role, double slack) {
+  S complaints;
+  std::vector<Item> items = ItemsOf(drawing, role);
+  std::erase_if(items, [](const Item& item) { return !std::holds_alternative<TextItem>(item.content); });
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      if (!Overlap(BoundsOf(items[i]), BoundsOf(items[j]), slack)) continue;
+      complaints += std::get<TextItem>(items[j].content).text + " on " +
+                    std::get<TextItem>(items[i].content).text + "\n";
+    }
+  }
+  return complaints;
 }
 
 S DrawingComplaints(const Drawing& drawing) {

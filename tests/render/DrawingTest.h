@@ -40,8 +40,17 @@ S AxesXml(const S& category = "", const S& value = "", bool horizontal = false);
 S ValueAxesXml(const S& x = "", const S& value = "");
 S DateAxesXml(const S& category = "", const S& value = "");
 ///@}
+/// Returns the axis of the series in a 3-D chart (number 3).
+S DepthAxisXml();
 S ScalingXml(const S& least, const S& most, const S& more = "");
 S SolidXml(const S& color, const S& more = "");
+/// Returns shape properties with a fill, and with a line of two points if its fill isn't empty.
+S LookXml(const S& fill, const S& line = "");
+/// Returns text properties with attributes of the body, such as rot="2700000".
+S BodyXml(const S& attributes);
+S TitleXml(const S& text, const S& more = "");
+/// Returns a manual layout with the mode "edge" or "factor". `more` follows the position.
+S LayoutXml(const S& mode, const S& x, const S& y, const S& more = "");
 /// Returns a chart group on these axes.
 S GroupXml(const S& element, const S& first, const S& series, const S& last = "");
 /// Returns a group of columns, or of bars with the direction "bar".
@@ -51,6 +60,8 @@ S ColumnsXml(const S& series, const S& last = "", const S& grouping = "clustered
 S LinesXml(const S& series, const S& last = "", const S& grouping = "standard");
 /// Returns a chart without a title that contains a plot area.
 S PlotXml(const S& content, const S& behind = "");
+/// Returns the same in 3-D. `view` has the elements of the view.
+S Plot3DXml(const S& view, const S& content, const S& behind = "");
 ///@}
 
 /// A font whose letters all have the same width, so that drawings don't depend on the installed fonts.
@@ -69,6 +80,11 @@ class DrawingTest : public ChartTest {
   /// Draws a whole chart part.
   Drawing DrawPart(const S& part, double width = 384, double height = 270);
 
+  /// Opens a workbook with an empty chart that has shapes. `anchors` are the children of their root.
+  void OpenShapes(const S& anchors, const S& chart = "<c:plotArea/>");
+  /// Draws the chart of the open workbook.
+  Drawing DrawOpen(double width = 384, double height = 270);
+
   static render::CairoFonts& SharedFonts();
   render::Notes notes_;
 };
@@ -83,6 +99,11 @@ Texts TextsOf(const Drawing& drawing, Role role, int series = 0);
 Rect BoxOf(const Drawing& drawing, Role role, int series = 0);
 /// Returns the solid fill of a path as "#RRGGBB", or "none".
 S FillOf(const Item& item);
+/// Checks the edges of a rectangle.
+void ExpectNear(const Rect& actual, const Rect& expected, const S& what = "", double slack = 1e-6);
+
+/// Returns the pairs of texts of a role that overlap by more than `slack` points, one per line.
+S OverlapComplaints(const Drawing& drawing, Role role, double slack);
 
 /// Returns the errors of a drawing, one per line: text outside the chart, overlapping tick labels, invalid
 /// numbers, clips that don't end.

@@ -1,5 +1,6 @@
 #include <numbers>
 
+#include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Xml.h"
@@ -93,17 +94,14 @@ TEST_F(FamiliesTest, OnlyTheOutermostRingOfADoughnutExplodes) {
 }
 
 TEST_F(FamiliesTest, PiesAndDoughnutsHaveNoPlotAreaOfTheirOwn) {
+  const S pie = "<c:pieChart>" + SeriesXml(0, {1, 2}) + "</c:pieChart>";
   struct {
     S plot, fill;
   } cases[] = {
-      {"<c:pieChart>" + SeriesXml(0, {1, 2}) + "</c:pieChart>", "none"},
+      {pie, "none"},
       {"<c:doughnutChart>" + SeriesXml(0, {1, 2}) + "</c:doughnutChart>", "none"},
-      {"<c:pieChart>" + SeriesXml(0, {1, 2}) +
-           "</c:pieChart><c:spPr><a:solidFill><a:srgbClr val=\"FFFF99\"/></a:solidFill></c:spPr>",
-       "#FFFF99"},
-      {"<c:pieChart>" + SeriesXml(0, {1, 2}) + "</c:pieChart>" +
-           GroupXml("barChart", "", SeriesXml(1, {1, 2})) + AxesXml(),
-       "#FFFFFF"},
+      {pie + LookXml(SolidXml("FFFF99")), "#FFFF99"},
+      {pie + GroupXml("barChart", "", SeriesXml(1, {1, 2})) + AxesXml(), "#FFFFFF"},
   };
   for (const auto& test : cases) {
     EXPECT_EQ(FillOf(ItemsOf(Draw(PlotXml(test.plot)), Role::kPlotArea)[0]), test.fill) << test.plot;
@@ -344,18 +342,14 @@ TEST_F(FamiliesTest, NamesWithoutACacheAreThoseOfTheCells) {
 }
 
 TEST_F(FamiliesTest, SeriesOfTwoAxesFollowTheirOwnScale) {
-  S second = AxesXml("", ScalingXml("0", "1") + "<c:crosses val=\"max\"/>");
   const auto renumber = [](S xml) {
-    for (const auto& [from, to] : {std::pair{"\"1\"/>", "\"11\"/>"}, {"\"2\"/>", "\"12\"/>"}}) {
-      for (const char* name : {"axId val=", "crossAx val="}) {
-        const S wanted = S(name) + from;
-        for (std::size_t at; (at = xml.find(wanted)) != S::npos;)
-          xml.replace(at, wanted.size(), S(name) + to);
-      }
+    for (const S number : {"1", "2"}) {
+      for (const S name : {"axId val=\"", "crossAx val=\""})
+        xml = runtime::Replace(xml, name + number + "\"", name + "1" + number + "\"");
     }
     return xml;
   };
-  second = renumber(second);
+  S second = renumber(AxesXml("", ScalingXml("0", "1") + "<c:crosses val=\"max\"/>"));
   second.replace(second.find("<c:delete val=\"0\"/>"), 19, "<c:delete val=\"1\"/>");
   const Drawing drawing = Draw(
       PlotXml(ColumnsXml(SeriesXml(0, {50, 100})) +

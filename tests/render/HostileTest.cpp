@@ -123,14 +123,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(DrawingTest, LegendsAreReadOnlyAsFarAsTheyAreShown) {
   OpenChart(ChartPartXml(PlotXml("<c:pieChart>" + Claiming("4000000") + "</c:pieChart>", "<c:legend/>")));
-  for (const S& name : Book().Package().Parts()) {
-    if (name.find("/charts/chart") == S::npos || !name.ends_with(".xml")) continue;
-    const auto lines = xlsx::LegendLines(*Book().Chart(name), 3);
-    ASSERT_EQ(lines.size(), 3u);
-    EXPECT_EQ(lines[2].text, "3");
-    return;
-  }
-  FAIL() << "the workbook has no chart part";
+  const auto lines = xlsx::LegendLines(*Book().Chart("/xl/charts/chart1.xml"), 3);
+  ASSERT_EQ(lines.size(), 3u);
+  EXPECT_EQ(lines[2].text, "3");
 }
 
 TEST_F(DrawingTest, FiveThousandPointsOf254SeriesStayUsable) {

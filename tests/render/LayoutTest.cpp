@@ -37,17 +37,10 @@ TEST_F(LayoutTest, TheLegendLeavesOutEntriesAndHasItsManualPosition) {
   const Drawing piled = DrawColumns(LegendXml("r"), "", "", "stacked");
   EXPECT_EQ(TextsOf(piled, Role::kLegendEntry), (Texts{"Series 2", "Series 1", "Series 0"}));
 
-  const S layout =
-      "<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x val=\"0.5\"/>"
-      "<c:y val=\"0.25\"/><c:w val=\"0.4\"/><c:h val=\"0.5\"/></c:manualLayout></c:layout>";
-  const Drawing dragged =
-      DrawColumns(LegendXml("r", layout + "<c:spPr><a:ln w=\"12700\"><a:solidFill><a:srgbClr "
-                                          "val=\"FF0000\"/></a:solidFill></a:ln></c:spPr>"));
+  const S layout = LayoutXml("edge", "0.5", "0.25", "<c:w val=\"0.4\"/><c:h val=\"0.5\"/>");
+  const Drawing dragged = DrawColumns(LegendXml("r", layout + LookXml("", SolidXml("FF0000"))));
   const Rect box = BoxOf(dragged, Role::kLegend);
-  EXPECT_NEAR(box.left, 192, 1e-6);
-  EXPECT_NEAR(box.top, 67.5, 1e-6);
-  EXPECT_NEAR(box.width, 153.6, 1e-6);
-  EXPECT_NEAR(box.height, 135, 1e-6);
+  ExpectNear(box, {192, 67.5, 153.6, 135});
   for (const Rect& entry : BoxesOf(dragged, Role::kLegendEntry)) EXPECT_TRUE(Union(box, entry) == box);
 }
 
@@ -60,9 +53,8 @@ TEST_F(LayoutTest, ALegendThatIsTooNarrowForItsTextsShowsAllEntriesThatHaveHeigh
     const Drawing drawing = Draw(PlotXml(
         "<c:pieChart><c:varyColors val=\"1\"/>" +
             SeriesXml(0, {1, 2, 3}, "", "", CategoriesXml({"Task01", "Task02", "Task03"})) + "</c:pieChart>",
-        LegendXml("l", S("<c:layout><c:manualLayout><c:xMode val=\"edge\"/><c:yMode val=\"edge\"/><c:x "
-                         "val=\"0.04\"/><c:y val=\"0.3\"/><c:w val=\"0.08\"/><c:h val=\"") +
-                           test.height + "\"/></c:manualLayout></c:layout>")));
+        LegendXml("l", LayoutXml("edge", "0.04", "0.3",
+                                 S("<c:w val=\"0.08\"/><c:h val=\"") + test.height + "\"/>"))));
     EXPECT_EQ(ItemsOf(drawing, Role::kLegendEntry).size(), test.entries) << test.what;
   }
 }
@@ -114,7 +106,7 @@ TEST_F(LayoutTest, ALegendShowsTheEntriesThatFitAndDoesNotCoverThePlot) {
 }
 
 TEST_F(LayoutTest, ALegendThatWasMovedHasTheSizeOfTheAutomaticOne) {
-  const S frame = "<c:spPr>" + SolidXml("FFFFCC") + "</c:spPr>";
+  const S frame = LookXml(SolidXml("FFFFCC"));
   const auto boxes = [](const Drawing& drawing) {
     std::vector<Rect> all = BoxesOf(drawing, Role::kLegend);
     for (const Role role : {Role::kLegendKey, Role::kLegendEntry}) {
@@ -131,15 +123,12 @@ TEST_F(LayoutTest, ALegendThatWasMovedHasTheSizeOfTheAutomaticOne) {
                {"edge", "0.25", 96, 27},
                {"edge", "-0.25", 0, 27}};
   for (const auto& test : cases) {
-    const auto moved = boxes(DrawColumns(LegendXml(
-        "r", "<c:layout><c:manualLayout><c:xMode val=\"" + test.mode + "\"/><c:yMode val=\"" + test.mode +
-                 "\"/><c:x val=\"" + test.x + "\"/><c:y val=\"0.1\"/></c:manualLayout></c:layout>" + frame)));
+    const auto moved = boxes(DrawColumns(LegendXml("r", LayoutXml(test.mode, test.x, "0.1") + frame)));
     ASSERT_EQ(moved.size(), usual.size()) << test.mode;
+    const double across = test.left - usual[0].left, down = test.top - usual[0].top;
     for (std::size_t i = 0; i < usual.size(); ++i) {
-      EXPECT_NEAR(moved[i].left - usual[i].left, test.left - usual[0].left, 1e-6) << test.mode << test.x << i;
-      EXPECT_NEAR(moved[i].top - usual[i].top, test.top - usual[0].top, 1e-6) << test.mode << test.x << i;
-      EXPECT_NEAR(moved[i].width, usual[i].width, 1e-6) << test.mode << test.x << i;
-      EXPECT_NEAR(moved[i].height, usual[i].height, 1e-6) << test.mode << test.x << i;
+      const Rect expected{usual[i].left + across, usual[i].top + down, usual[i].width, usual[i].height};
+      ExpectNear(moved[i], expected, test.mode + test.x + std::to_string(i));
     }
   }
 }
@@ -223,9 +212,7 @@ TEST_F(LayoutTest, AWordThatIsWiderThanItsLineBreaksInside) {
        true},
   };
   for (const auto& test : cases) {
-    const Drawing drawing = DrawColumns("", "",
-                                        "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>" + test.text +
-                                            "</a:t></a:r></a:p></c:rich></c:tx></c:title>");
+    const Drawing drawing = DrawColumns("", "", TitleXml(test.text));
     const Texts lines = TextsOf(drawing, Role::kTitle);
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
     EXPECT_EQ(lines.size() > 1, test.breaks) << test.what;
@@ -294,9 +281,7 @@ TEST_F(LayoutTest, PicturesAsFillsAreStretchedOrTiledInsideOfTheirShapes) {
     xlsx::Package& package = Book().Package();
     package.Add("/xl/media/image1.png", "image/png", test.bytes);
     package.AddRelationship("/xl/charts/chart1.xml", "image", "/xl/media/image1.png");  // rId1
-    notes_.clear();
-    const Drawing drawing =
-        DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, SharedFonts(), notes_);
+    const Drawing drawing = DrawOpen();
     EXPECT_EQ(notes_, test.notes) << test.what;
     std::size_t pictures = 0;
     for (const Item& item : ItemsOf(drawing, Role::kBar)) {
@@ -340,16 +325,13 @@ TEST_F(LayoutTest, ATitleWithoutACacheHasTheTextOfItsCell) {
 }
 
 TEST_F(LayoutTest, FillsAndLinesAreTheChartParts) {
-  const S look =
-      "<c:spPr><a:solidFill><a:srgbClr val=\"00B050\"><a:alpha val=\"50000\"/></a:srgbClr>"
-      "</a:solidFill><a:ln w=\"25400\" cap=\"rnd\"><a:solidFill><a:schemeClr val=\"accent2\"/>"
-      "</a:solidFill><a:prstDash val=\"dash\"/></a:ln></c:spPr>";
+  const S look = "<c:spPr>" + SolidXml("00B050", "<a:alpha val=\"50000\"/>") +
+                 "<a:ln w=\"25400\" cap=\"rnd\"><a:solidFill><a:schemeClr val=\"accent2\"/></a:solidFill>"
+                 "<a:prstDash val=\"dash\"/></a:ln></c:spPr>";
   const S series =
-      SeriesXml(0, {1, 2}, look + "<c:dPt><c:idx val=\"1\"/><c:spPr><a:noFill/></c:spPr></c:dPt>");
-  const Drawing drawing =
-      Draw(PlotXml(ColumnsXml(series) + AxesXml() +
-                   "<c:spPr><a:solidFill><a:srgbClr val=\"FFFF99\"/></a:solidFill></c:spPr>"),
-           "<c:spPr><a:solidFill><a:srgbClr val=\"EEEEEE\"/></a:solidFill><a:ln><a:noFill/></a:ln></c:spPr>");
+      SeriesXml(0, {1, 2}, look + "<c:dPt><c:idx val=\"1\"/>" + LookXml("<a:noFill/>") + "</c:dPt>");
+  const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + AxesXml() + LookXml(SolidXml("FFFF99"))),
+                               LookXml(SolidXml("EEEEEE"), "<a:noFill/>"));
   const auto bars = ItemsOf(drawing, Role::kBar);
   const auto& first = std::get<PathItem>(bars[0].content);
   EXPECT_EQ(std::get<render::SolidFill>(first.fill).color, (render::Color{0, 0xB0, 0x50, 0.5}));

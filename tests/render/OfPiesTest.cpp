@@ -176,9 +176,7 @@ TEST_F(OfPiesTest, HaveTheSizesAndTheGapOfTheFile) {
 }
 
 TEST_F(OfPiesTest, SeriesLinesGoFromTheOtherPointToTheSecondPlot) {
-  const S lines =
-      "<c:serLines><c:spPr><a:ln w=\"25400\"><a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill></a:ln>"
-      "</c:spPr></c:serLines>";
+  const S lines = "<c:serLines>" + LookXml("", SolidXml("FF0000")) + "</c:serLines>";
   EXPECT_EQ(ItemsOf(DrawOfPie("pie", {3, 2, 1}, ""), Role::kSeriesLine).size(), 0u);
   for (const bool isBar : {false, true}) {
     const Drawing drawing = DrawOfPie(isBar ? "bar" : "pie", {3, 2, 2, 1}, Split("pos", "2") + lines);
@@ -209,9 +207,7 @@ TEST_F(OfPiesTest, TheOtherPointHasItsLabelAndLookButNoLegendEntry) {
       "<c:dLbls><c:dLbl><c:idx val=\"4\"/><c:dLblPos val=\"ctr\"/><c:showVal val=\"1\"/>"
       "<c:showCatName val=\"1\"/></c:dLbl><c:dLblPos val=\"ctr\"/><c:showCatName val=\"1\"/>"
       "<c:showPercent val=\"1\"/></c:dLbls>";
-  const S look =
-      "<c:dPt><c:idx val=\"4\"/><c:spPr><a:solidFill><a:srgbClr val=\"123456\"/></a:solidFill></c:spPr>"
-      "</c:dPt>";
+  const S look = "<c:dPt><c:idx val=\"4\"/>" + LookXml(SolidXml("123456")) + "</c:dPt>";
   for (const S& type : {S("pie"), S("bar")}) {
     const Drawing drawing =
         DrawOfPie(type, {50, 20, 20, 10}, Split("pos", "2"), look + labels, "<c:legend/>", names);
@@ -255,15 +251,7 @@ TEST_F(OfPiesTest, LabelsOutsideAreOnTheChartAndDoNotTouch) {
                       "", names);
         const S what = test.what + type + position;
         EXPECT_EQ(TextsOf(drawing, Role::kDataLabel).size(), names.size() + 1) << what;
-        std::vector<Rect> boxes;
-        for (const Item& item : ItemsOf(drawing, Role::kDataLabel)) {
-          if (std::holds_alternative<render::TextItem>(item.content)) boxes.push_back(BoundsOf(item));
-        }
-        for (std::size_t a = 0; a < boxes.size(); ++a) {
-          for (std::size_t b = a + 1; b < boxes.size(); ++b) {
-            EXPECT_FALSE(Overlap(boxes[a], boxes[b], 0.1)) << what << a << " and " << b;
-          }
-        }
+        EXPECT_EQ(OverlapComplaints(drawing, Role::kDataLabel, 0.1), "") << what;
         EXPECT_EQ(DrawingComplaints(drawing), "") << what;
         EXPECT_EQ(notes_, render::Notes()) << what;
       }

@@ -36,25 +36,20 @@ class PieLabelsTest : public DrawingTest {
 
   Drawing DrawPie(const Numbers& values, const S& labels, double firstAngle = 0, double size = 0.5) {
     const S edge = Number(0.5 - size / 2), extent = Number(size);
-    const S layout =
-        "<c:layout><c:manualLayout><c:layoutTarget val=\"inner\"/><c:xMode val=\"edge\"/><c:yMode "
-        "val=\"edge\"/><c:x val=\"" +
-        edge + "\"/><c:y val=\"" + edge + "\"/><c:w val=\"" + extent + "\"/><c:h val=\"" + extent +
-        "\"/></c:manualLayout></c:layout>";
-    return Draw(
-        PlotXml(layout + "<c:pieChart><c:varyColors val=\"1\"/>" +
-                SeriesXml(0, values,
-                          "<c:dLbls>" + labels + "<c:spPr>" + SolidXml("FFFFCC") +
-                              "</c:spPr><c:showVal val=\"1\"/><c:showLeaderLines val=\"1\"/></c:dLbls>") +
-                "<c:firstSliceAng val=\"" + Number(firstAngle) + "\"/></c:pieChart>"));
+    const S inner =
+        "<c:w val=\"" + extent + "\"/><c:h val=\"" + extent + "\"/><c:layoutTarget val=\"inner\"/>";
+    return Draw(PlotXml(LayoutXml("edge", edge, edge, inner) + "<c:pieChart><c:varyColors val=\"1\"/>" +
+                        SeriesXml(0, values,
+                                  "<c:dLbls>" + labels + LookXml(SolidXml("FFFFCC")) +
+                                      "<c:showVal val=\"1\"/><c:showLeaderLines val=\"1\"/></c:dLbls>") +
+                        "<c:firstSliceAng val=\"" + Number(firstAngle) + "\"/></c:pieChart>"));
   }
 
   /// Returns the label of a slice at a distance from the middle of the slice. Distances are in points.
   static S MovedLabelXml(std::size_t point, Point by) {
     return "<c:dLbl><c:idx val=\"" + std::to_string(point) + "\"/><c:layout><c:manualLayout><c:x val=\"" +
-           Number(by.x / 384) + "\"/><c:y val=\"" + Number(by.y / 270) +
-           "\"/></c:manualLayout></c:layout><c:spPr>" + SolidXml("FFFFCC") +
-           "</c:spPr><c:dLblPos val=\"ctr\"/><c:showVal val=\"1\"/></c:dLbl>";
+           Number(by.x / 384) + "\"/><c:y val=\"" + Number(by.y / 270) + "\"/></c:manualLayout></c:layout>" +
+           LookXml(SolidXml("FFFFCC")) + "<c:dLblPos val=\"ctr\"/><c:showVal val=\"1\"/></c:dLbl>";
   }
 
   /// Returns the frames of the labels, in the order of the slices.
@@ -133,10 +128,9 @@ TEST_F(PieLabelsTest, LabelsOfTinySlicesAreTiedToThem) {
 
 TEST_F(PieLabelsTest, AMovedLabelKeepsThePlaceThatItsLayoutDoesNotSet) {
   const auto moved = [&](const S& layout) {
-    return FramesOf(
-               DrawPie({1, 1}, "<c:dLbl><c:idx val=\"0\"/><c:layout><c:manualLayout>" + layout +
-                                   "</c:manualLayout></c:layout><c:spPr>" + SolidXml("FFFFCC") +
-                                   "</c:spPr><c:dLblPos val=\"ctr\"/><c:showVal val=\"1\"/></c:dLbl>"))[0]
+    return FramesOf(DrawPie({1, 1}, "<c:dLbl><c:idx val=\"0\"/><c:layout><c:manualLayout>" + layout +
+                                        "</c:manualLayout></c:layout>" + LookXml(SolidXml("FFFFCC")) +
+                                        "<c:dLblPos val=\"ctr\"/><c:showVal val=\"1\"/></c:dLbl>"))[0]
         .Center();
   };
   const Point own = moved(""), across = moved("<c:x val=\"0.125\"/>"), down = moved("<c:y val=\"0.1\"/>");

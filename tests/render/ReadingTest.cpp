@@ -57,7 +57,7 @@ TEST_F(ReadingTest, PatternsWithoutColoursAreBlackOnWhite) {
       {"<a:pattFill prst=\"pct5\"><a:bgClr>" + red + "</a:bgClr></a:pattFill>", "pct5", "#000000", "#FF0000"},
   };
   for (const auto& test : kCases) {
-    const Drawing drawing = DrawColumns(SeriesXml(0, {2}, "<c:spPr>" + test.pattern + "</c:spPr>"));
+    const Drawing drawing = DrawColumns(SeriesXml(0, {2}, LookXml(test.pattern)));
     const auto item = std::get<PathItem>(ItemsOf(drawing, Role::kBar)[0].content);
     const auto& fill = std::get<render::PatternFill>(item.fill);
     EXPECT_EQ(fill.preset, test.preset);
@@ -149,18 +149,17 @@ TEST_F(ReadingTest, TextsAreTurnedAsTheirBodySays) {
                                          {"vert=\"vert270\"", -90},
                                          {"rot=\"0\" vert=\"vert\"", 90}};
   for (const auto& [body, rotation] : kCases) {
-    const S text = "<c:txPr><a:bodyPr " + body + "/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
-    const Drawing drawing = DrawColumns(SeriesXml(0, {1}, "", "", CategoriesXml({"East"})), text);
+    const Drawing drawing = DrawColumns(SeriesXml(0, {1}, "", "", CategoriesXml({"East"})), BodyXml(body));
     EXPECT_EQ(std::get<TextItem>(ItemsOf(drawing, Role::kTickLabel, 1)[0].content).rotation, rotation)
         << body;
   }
-  const S stacked = "<c:txPr><a:bodyPr vert=\"wordArtVert\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
+  const S stacked = BodyXml("vert=\"wordArtVert\"");
   const Drawing drawing = DrawColumns(SeriesXml(0, {1}, "", "", CategoriesXml({"East"})), stacked);
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 1), (Texts{"E", "a", "s", "t"}));
 }
 
 TEST_F(ReadingTest, LinesBetweenPointsHaveTheirStroke) {
-  const S look = "<c:spPr><a:ln w=\"25400\">" + SolidXml("00B050") + "</a:ln></c:spPr>";
+  const S look = LookXml("", SolidXml("00B050"));
   struct {
     S lines, color;
     double width;

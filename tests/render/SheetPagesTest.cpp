@@ -332,9 +332,7 @@ TEST_F(SheetPagesTest, ChartsAreInPlaceAndContinueOnFurtherPages) {
 TEST_F(SheetPagesTest, ASheetOfChartsAloneIsAsLargeAsTheyAreAndNamesThem) {
   const S columns = ColumnsXml(SeriesXml(0, {1, 2})) + AxesXml();
   const auto titled = [&](const S& text) {
-    return ChartPartXml("<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>" + text +
-                        "</a:t></a:r></a:p></c:rich></c:tx></c:title><c:plotArea>" + columns +
-                        "</c:plotArea>");
+    return ChartPartXml(TitleXml(text) + "<c:plotArea>" + columns + "</c:plotArea>");
   };
   PlainSheet sheet{.name = "Sheet1"};
   sheet.frames = {{"", titled("Sales"), 1, 2, 4, 10}, {"", titled("Costs"), 1, 14, 4, 10}};

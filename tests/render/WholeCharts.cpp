@@ -14,18 +14,10 @@ S Marker(const S& symbol, const S& size = "6") {
   return "<c:marker><c:symbol val=\"" + symbol + "\"/><c:size val=\"" + size + "\"/></c:marker>";
 }
 S With(S xml, const S& from, const S& to) { return runtime::Replace(xml, from, to); }
-S Title(const S& text) {
-  return "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>" + text +
-         "</a:t></a:r></a:p></c:rich></c:tx></c:title>";
-}
 /// Categories of two levels.
 S Levels() {
   return LevelsXml(5, {{{0, "Jan"}, {1, "Feb"}, {2, "Mar"}, {3, "Apr"}, {4, "May"}},
                        {{0, "North"}, {2, "A long name of the south and all of its many islands"}}});
-}
-
-S Look(const S& fill, const S& line = "") {
-  return "<c:spPr>" + fill + (line.empty() ? "" : "<a:ln w=\"25400\">" + line + "</a:ln>") + "</c:spPr>";
 }
 
 const S kNames = CategoriesXml({"North", "East", "South", "West"});
@@ -72,7 +64,7 @@ std::map<std::string, Whole> WholeCharts() {
                            "sysDash", "sysDashDot", "sysDashDotDot", "sysDot"}) {
     dashes +=
         SeriesXml(row, {1.0 * row, 2.0 * row},
-                  Look("", SolidXml("7030A0") + "<a:prstDash val=\"" + S(dash) + "\"/>") + Marker("none"));
+                  LookXml("", SolidXml("7030A0") + "<a:prstDash val=\"" + S(dash) + "\"/>") + Marker("none"));
     ++row;
   }
   const S stops =
@@ -80,21 +72,22 @@ std::map<std::string, Whole> WholeCharts() {
       "val=\"0000FF\"><a:alpha val=\"50000\"/></a:srgbClr></a:gs><a:gs pos=\"40000\"><a:srgbClr "
       "val=\"00FF00\"/></a:gs></a:gsLst>";
   const S fills =
-      SeriesXml(0, {1}, Look("<a:gradFill>" + stops + "<a:lin ang=\"2700000\"/></a:gradFill>")) +
+      SeriesXml(0, {1}, LookXml("<a:gradFill>" + stops + "<a:lin ang=\"2700000\"/></a:gradFill>")) +
       SeriesXml(1, {2},
-                Look("<a:gradFill>" + stops +
-                     "<a:path path=\"circle\"><a:fillToRect l=\"20000\" t=\"40000\" "
-                     "r=\"60000\" b=\"20000\"/></a:path></a:gradFill>")) +
-      SeriesXml(2, {3},
-                Look("<a:pattFill prst=\"ltUpDiag\"><a:fgClr><a:srgbClr val=\"FF0000\"/></a:fgClr><a:bgClr>"
-                     "<a:srgbClr val=\"FFFFFF\"/></a:bgClr></a:pattFill>")) +
+                LookXml("<a:gradFill>" + stops +
+                        "<a:path path=\"circle\"><a:fillToRect l=\"20000\" t=\"40000\" "
+                        "r=\"60000\" b=\"20000\"/></a:path></a:gradFill>")) +
+      SeriesXml(
+          2, {3},
+          LookXml("<a:pattFill prst=\"ltUpDiag\"><a:fgClr><a:srgbClr val=\"FF0000\"/></a:fgClr><a:bgClr>"
+                  "<a:srgbClr val=\"FFFFFF\"/></a:bgClr></a:pattFill>")) +
       SeriesXml(3, {4},
-                Look(SolidXml("00B050",
-                              "<a:alpha val=\"80000\"/><a:alphaMod val=\"50000\"/><a:alphaOff "
-                              "val=\"10000\"/>"),
-                     SolidXml("C00000"))) +
-      SeriesXml(4, {5}, Look("<a:noFill/>", "<a:noFill/>")) +
-      SeriesXml(5, {6}, Look(SolidXml("FFFF00"), "<a:round/>"));
+                LookXml(SolidXml("00B050",
+                                 "<a:alpha val=\"80000\"/><a:alphaMod val=\"50000\"/><a:alphaOff "
+                                 "val=\"10000\"/>"),
+                        SolidXml("C00000"))) +
+      SeriesXml(4, {5}, LookXml("<a:noFill/>", "<a:noFill/>")) +
+      SeriesXml(5, {6}, LookXml(SolidXml("FFFF00"), "<a:round/>"));
   const auto point = [](int index, const S& more) {
     return "<c:dPt><c:idx val=\"" + std::to_string(index) + "\"/>" + more + "</c:dPt>";
   };
@@ -102,9 +95,7 @@ std::map<std::string, Whole> WholeCharts() {
     return "<c:legend><c:legendPos val=\"" + place + "\"/>" + more + "</c:legend>";
   };
   const auto layout = [](const S& target, const S& mode) {
-    return "<c:layout><c:manualLayout>" + target + "<c:xMode val=\"" + mode + "\"/><c:yMode val=\"" + mode +
-           "\"/><c:x val=\"0.1\"/><c:y val=\"0.2\"/><c:w val=\"0.5\"/><c:h "
-           "val=\"0.4\"/></c:manualLayout></c:layout>";
+    return LayoutXml(mode, "0.1", "0.2", "<c:w val=\"0.5\"/><c:h val=\"0.4\"/>" + target);
   };
   const S two = ColumnsXml(SeriesXml(0, {5, 3}) + SeriesXml(1, {1, 2}));
   const S twenty = Scaling("<c:max val=\"20\"/><c:min val=\"-10\"/>");
@@ -126,18 +117,11 @@ std::map<std::string, Whole> WholeCharts() {
                             PointsXml(0, {1, 2}, {2, 1}, marker)) +
                    ValueAxesXml());
   };
-  const auto solid = [](const S& view, const S& content, const S& behind = "") {
-    return "<c:autoTitleDeleted val=\"1\"/><c:view3D>" + view + "</c:view3D>" +
-           PlotXml(content, behind).substr(S("<c:autoTitleDeleted val=\"1\"/>").size());
-  };
   const S rightAngles = "<c:rotX val=\"15\"/><c:rotY val=\"20\"/><c:rAngAx val=\"1\"/>";
   const S perspective =
       "<c:rotX val=\"25\"/><c:rotY val=\"230\"/><c:depthPercent val=\"150\"/><c:rAngAx val=\"0\"/>"
       "<c:perspective val=\"60\"/>";
   const S three = SeriesXml(0, {1, 3}) + SeriesXml(1, {2, 6}) + SeriesXml(2, {3, -2});
-  const S depth =
-      "<c:serAx><c:axId val=\"3\"/><c:scaling/><c:delete val=\"0\"/><c:axPos val=\"b\"/><c:crossAx "
-      "val=\"1\"/></c:serAx>";
   const auto bodies = [&](const S& grouping, const S& direction, const S& last = "") {
     return GroupXml("bar3DChart",
                     "<c:barDir val=\"" + direction + "\"/><c:grouping val=\"" + grouping + "\"/>", three,
@@ -146,12 +130,12 @@ std::map<std::string, Whole> WholeCharts() {
   };
   const auto surface = [&](const S& element, const S& first, const S& view) {
     const S ridge = SeriesXml(0, {0, 0, 10}) + SeriesXml(1, {30, 15, 20}) + SeriesXml(2, {0, 0, 5});
-    const S formats =
-        "<c:bandFmts><c:bandFmt><c:idx val=\"1\"/>" + Look(SolidXml("FFC000")) + "</c:bandFmt></c:bandFmts>";
-    return solid(view,
-                 GroupXml(element, first, ridge, formats + "<c:axId val=\"3\"/>") +
-                     AxesXml("", "<c:majorUnit val=\"10\"/>") + depth,
-                 kLegend);
+    const S formats = "<c:bandFmts><c:bandFmt><c:idx val=\"1\"/>" + LookXml(SolidXml("FFC000")) +
+                      "</c:bandFmt></c:bandFmts>";
+    return Plot3DXml(view,
+                     GroupXml(element, first, ridge, formats + "<c:axId val=\"3\"/>") +
+                         AxesXml("", "<c:majorUnit val=\"10\"/>") + DepthAxisXml(),
+                     kLegend);
   };
   const auto dated = [](const Numbers& serials, const S& axis) {
     return PlotXml(
@@ -166,9 +150,6 @@ std::map<std::string, Whole> WholeCharts() {
                               lying ? "bar" : "col") +
                    AxesXml(axis, "", lying));
   };
-  const auto turned = [](const S& angle) {
-    return "<c:txPr><a:bodyPr rot=\"" + angle + "\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
-  };
   const auto table = [&](const S& more, const S& axis = "") {
     return PlotXml(
         ColumnsXml(SeriesXml(0, {1.5, 20}, "", "", CategoriesXml({"North", "A long name of the south"})) +
@@ -179,7 +160,7 @@ std::map<std::string, Whole> WholeCharts() {
       "<c:spPr><a:ln w=\"19050\"><a:solidFill><a:srgbClr val=\"0070C0\"/></a:solidFill></a:ln></c:spPr>"
       "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr sz=\"800\" b=\"1\"/></a:pPr></a:p></c:txPr>";
   const auto cast = [](const S& attributes) {
-    return Look(
+    return LookXml(
         SolidXml("00B050") + "<a:effectLst><a:outerShdw " + attributes +
         "><a:srgbClr val=\"112233\"><a:alpha val=\"40000\"/></a:srgbClr></a:outerShdw></a:effectLst>");
   };
@@ -192,7 +173,7 @@ std::map<std::string, Whole> WholeCharts() {
   const auto errorBars = [](const S& way, const S& more) {
     return "<c:errBars><c:errDir val=\"" + way +
            "\"/><c:errBarType val=\"both\"/><c:errValType val=\"fixedVal\"/>" + more + "<c:val val=\"1\"/>" +
-           Look("", SolidXml("00B050")) + "</c:errBars>";
+           LookXml("", SolidXml("00B050")) + "</c:errBars>";
   };
   const S disc = "<c:pie3DChart><c:varyColors val=\"1\"/>";
   return {
@@ -222,16 +203,16 @@ std::map<std::string, Whole> WholeCharts() {
                AxesXml())},
       {"labels-beside-bars",
        named(12, "Northern hemisphere and the islands around it, as it was counted in the year ", "", true)},
-      {"labels-flat-by-hand", named(40, "Septembers", turned("0"))},
+      {"labels-flat-by-hand", named(40, "Septembers", BodyXml("rot=\"0\""))},
       {"labels-skipped", named(200, "")},
       {"labels-skipped-by-hand", named(10, "Q", "<c:tickLblSkip val=\"3\"/>")},
-      {"labels-turned-by-hand", named(5, "Q", turned("5400000"))},
+      {"labels-turned-by-hand", named(5, "Q", BodyXml("rot=\"5400000\""))},
       {"labels-upright", named(24, "Septembers")},
       {"moving-average",
        PlotXml(ColumnsXml(SeriesXml(0, {1, 3, 5, kNoValue, 9, 7}, With(trend, "linear", "movingAvg"))) +
                AxesXml())},
       {"shadows",
-       Title("Sales") + "<c:autoTitleDeleted val=\"0\"/><c:plotArea>" +
+       TitleXml("Sales") + "<c:autoTitleDeleted val=\"0\"/><c:plotArea>" +
            ColumnsXml(SeriesXml(0, {3}, far + With(Labels("showVal"), "<c:dLbls>", "<c:dLbls>" + far))) +
            LinesXml(SeriesXml(1, {2}, With(Marker("circle"), "</c:marker>", far + "</c:marker>"))) +
            AxesXml() + far + "</c:plotArea><c:legend>" + far + "</c:legend>"},
@@ -239,41 +220,42 @@ std::map<std::string, Whole> WholeCharts() {
       {"table-reversed", table("<c:showOutline val=\"1\"/>" + boldTable, reversed)},
       {"table-with-columns", table("<c:showVertBorder val=\"1\"/><c:showKeys val=\"1\"/>")},
       {"table-with-rows", table("<c:showHorzBorder val=\"1\"/>")},
-      {"3d-areas", solid(perspective, GroupXml("area3DChart", "<c:grouping val=\"standard\"/>", three,
-                                               "<c:axId val=\"3\"/>") +
-                                          AxesXml() + depth)},
+      {"3d-areas", Plot3DXml(perspective, GroupXml("area3DChart", "<c:grouping val=\"standard\"/>", three,
+                                                   "<c:axId val=\"3\"/>") +
+                                              AxesXml() + DepthAxisXml())},
       {"3d-areas-stacked",
-       solid(rightAngles, GroupXml("area3DChart", "<c:grouping val=\"stacked\"/>", three) + AxesXml())},
-      {"3d-bars", solid(rightAngles, bodies("clustered", "bar"))},
-      {"3d-columns",
-       solid(rightAngles, bodies("clustered", "col", "<c:gapWidth val=\"60\"/><c:gapDepth val=\"30\"/>"))},
+       Plot3DXml(rightAngles, GroupXml("area3DChart", "<c:grouping val=\"stacked\"/>", three) + AxesXml())},
+      {"3d-bars", Plot3DXml(rightAngles, bodies("clustered", "bar"))},
+      {"3d-columns", Plot3DXml(rightAngles, bodies("clustered", "col",
+                                                   "<c:gapWidth val=\"60\"/><c:gapDepth val=\"30\"/>"))},
       {"3d-columns-behind-each-other",
-       solid(perspective, GroupXml("bar3DChart", "<c:barDir val=\"col\"/><c:grouping val=\"standard\"/>",
-                                   three, "<c:axId val=\"3\"/>") +
-                              AxesXml() + depth)},
-      {"3d-columns-of-levels", solid(rightAngles, GroupXml("bar3DChart", "<c:barDir val=\"col\"/>",
-                                                           SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
-                                                      AxesXml())},
-      {"3d-columns-percent", solid(rightAngles, bodies("percentStacked", "col"))},
-      {"3d-lines-of-blanks", solid(perspective, GroupXml("line3DChart", "<c:grouping val=\"standard\"/>",
-                                                         SeriesXml(0, {1, 2, kNoValue, 3, 4}) +
-                                                             SeriesXml(1, {kNoValue, 3, 2, kNoValue, 5}),
-                                                         "<c:axId val=\"3\"/>") +
-                                                    AxesXml(kGrid, kBothGrids) + depth)},
+       Plot3DXml(perspective, GroupXml("bar3DChart", "<c:barDir val=\"col\"/><c:grouping val=\"standard\"/>",
+                                       three, "<c:axId val=\"3\"/>") +
+                                  AxesXml() + DepthAxisXml())},
+      {"3d-columns-of-levels",
+       Plot3DXml(rightAngles, GroupXml("bar3DChart", "<c:barDir val=\"col\"/>",
+                                       SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) +
+                                  AxesXml())},
+      {"3d-columns-percent", Plot3DXml(rightAngles, bodies("percentStacked", "col"))},
+      {"3d-lines-of-blanks", Plot3DXml(perspective, GroupXml("line3DChart", "<c:grouping val=\"standard\"/>",
+                                                             SeriesXml(0, {1, 2, kNoValue, 3, 4}) +
+                                                                 SeriesXml(1, {kNoValue, 3, 2, kNoValue, 5}),
+                                                             "<c:axId val=\"3\"/>") +
+                                                        AxesXml(kGrid, kBothGrids) + DepthAxisXml())},
       {"3d-reversed",
-       solid("<c:rotX val=\"-20\"/><c:rotY val=\"120\"/><c:perspective val=\"40\"/>",
-             GroupXml("bar3DChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {5, -3}, "", "", kNames)) +
-                 AxesXml(reversed + kGrid + kMarks, reversed + kBothGrids + kMarks) + "<c:spPr>" +
-                 SolidXml("EEEEEE") + "</c:spPr>")},
-      {"3d-cones", solid(rightAngles, bodies("stacked", "col", "<c:shape val=\"coneToMax\"/>"))},
-      {"3d-cylinders", solid(perspective, bodies("clustered", "col", "<c:shape val=\"cylinder\"/>"))},
-      {"3d-pie", solid("<c:rotX val=\"30\"/><c:rotY val=\"40\"/>",
-                       disc + SeriesXml(0, {1, 1, 2}, Labels("showVal", "<c:dLblPos val=\"outEnd\"/>")) +
-                           "</c:pie3DChart>")},
+       Plot3DXml("<c:rotX val=\"-20\"/><c:rotY val=\"120\"/><c:perspective val=\"40\"/>",
+                 GroupXml("bar3DChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {5, -3}, "", "", kNames)) +
+                     AxesXml(reversed + kGrid + kMarks, reversed + kBothGrids + kMarks) + "<c:spPr>" +
+                     SolidXml("EEEEEE") + "</c:spPr>")},
+      {"3d-cones", Plot3DXml(rightAngles, bodies("stacked", "col", "<c:shape val=\"coneToMax\"/>"))},
+      {"3d-cylinders", Plot3DXml(perspective, bodies("clustered", "col", "<c:shape val=\"cylinder\"/>"))},
+      {"3d-pie", Plot3DXml("<c:rotX val=\"30\"/><c:rotY val=\"40\"/>",
+                           disc + SeriesXml(0, {1, 1, 2}, Labels("showVal", "<c:dLblPos val=\"outEnd\"/>")) +
+                               "</c:pie3DChart>")},
       {"3d-pie-exploded",
-       solid("<c:rotX val=\"60\"/>",
-             disc + SeriesXml(0, {1, 1, 2}, "<c:explosion val=\"40\"/>") + "</c:pie3DChart>")},
-      {"3d-pyramids", solid(rightAngles, bodies("stacked", "bar", "<c:shape val=\"pyramid\"/>"))},
+       Plot3DXml("<c:rotX val=\"60\"/>",
+                 disc + SeriesXml(0, {1, 1, 2}, "<c:explosion val=\"40\"/>") + "</c:pie3DChart>")},
+      {"3d-pyramids", Plot3DXml(rightAngles, bodies("stacked", "bar", "<c:shape val=\"pyramid\"/>"))},
       {"3d-surface",
        surface("surface3DChart", "", "<c:rotX val=\"20\"/><c:rotY val=\"30\"/><c:perspective val=\"20\"/>")},
       {"3d-surface-contours", surface("surfaceChart", "", "")},
@@ -306,20 +288,20 @@ std::map<std::string, Whole> WholeCharts() {
        PlotXml(ColumnsXml(SeriesXml(0, {4, -2}) + SeriesXml(1, {1, 3}) + SeriesXml(2, {1, -3}),
                           "<c:overlap val=\"40\"/>", "stacked") +
                AxesXml())},
-      {"layout-by-hand",
-       PlotXml(layout("<c:layoutTarget val=\"inner\"/>", "edge") + two + AxesXml(Title("X"), Title("Y")),
-               legend("r", layout("", "edge")))},
-      {"layout-by-hand-of-all", PlotXml(layout("", "edge") + two + AxesXml(Title("X"), Title("Y")),
+      {"layout-by-hand", PlotXml(layout("<c:layoutTarget val=\"inner\"/>", "edge") + two +
+                                     AxesXml(TitleXml("X"), TitleXml("Y")),
+                                 legend("r", layout("", "edge")))},
+      {"layout-by-hand-of-all", PlotXml(layout("", "edge") + two + AxesXml(TitleXml("X"), TitleXml("Y")),
                                         legend("r", layout("", "factor") + "<c:overlay val=\"1\"/>"))},
       {"legend-corner", PlotXml(two + AxesXml(), legend("tr"))},
       {"legend-left", PlotXml(two + AxesXml(), legend("l"))},
-      {"legend-top", Title("All sales") + "<c:autoTitleDeleted val=\"0\"/><c:plotArea>" + two + AxesXml() +
+      {"legend-top", TitleXml("All sales") + "<c:autoTitleDeleted val=\"0\"/><c:plotArea>" + two + AxesXml() +
                          "</c:plotArea>" + legend("t")},
       {"line-points",
        PlotXml(LinesXml(SeriesXml(0, {1, 3, 2, 4},
                                   Marker("square", "8") +
-                                      point(1, Marker("diamond", "12") + Look("", SolidXml("FF0000"))) +
-                                      point(2, Look("", "<a:noFill/>"))) +
+                                      point(1, Marker("diamond", "12") + LookXml("", SolidXml("FF0000"))) +
+                                      point(2, LookXml("", "<a:noFill/>"))) +
                         SeriesXml(1, {2, 2, 2, 2}, "")) +
                    AxesXml(),
                kLegend)},
@@ -377,7 +359,7 @@ std::map<std::string, Whole> WholeCharts() {
                    SeriesXml(0, {20, -5, 80}, Labels("showVal", "<c:showLegendKey val=\"1\"/>"), "", kNames) +
                    SeriesXml(1, {10, 5, 40}, Labels("showCatName", "<c:dLblPos val=\"ctr\"/>")) +
                    SeriesXml(2, {1, 5, 4}, Labels("showSerName", "<c:dLblPos val=\"inEnd\"/>"))) +
-                   AxesXml(Title("Regions") + kMarksIn, Title("Sales") + kBothGrids + kMarks),
+                   AxesXml(TitleXml("Regions") + kMarksIn, TitleXml("Sales") + kBothGrids + kMarks),
                "<c:legend><c:legendPos val=\"b\"/></c:legend>")},
       {"columns-of-levels",
        PlotXml(ColumnsXml(SeriesXml(0, {5, 3, 4, 1, 2}, "", "", Levels())) + AxesXml(kGrid + kMarks))},
@@ -396,11 +378,9 @@ std::map<std::string, Whole> WholeCharts() {
        PlotXml(ColumnsXml(SeriesXml(0, {20, 5}, "", "", kNames) + SeriesXml(1, {1, 2})) + AxesXml() +
                "<c:dTable><c:showHorzBorder val=\"1\"/><c:showVertBorder val=\"1\"/><c:showOutline "
                "val=\"1\"/><c:showKeys val=\"1\"/></c:dTable>")},
-      {"columns-upright",
-       PlotXml(ColumnsXml(SeriesXml(0, Numbers(30, 2), "", "", wide)) +
-               AxesXml("<c:txPr><a:bodyPr rot=\"-5400000\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p>"
-                       "</c:txPr><c:tickLblSkip val=\"2\"/><c:tickMarkSkip val=\"3\"/>" +
-                       kMarks))},
+      {"columns-upright", PlotXml(ColumnsXml(SeriesXml(0, Numbers(30, 2), "", "", wide)) +
+                                  AxesXml(BodyXml("rot=\"-5400000\"") +
+                                          "<c:tickLblSkip val=\"2\"/><c:tickMarkSkip val=\"3\"/>" + kMarks))},
       {"columns-wrapped",
        PlotXml(ColumnsXml(SeriesXml(0, {1, 2, 3}, "", "", wide)) +
                AxesXml("<c:crosses val=\"max\"/>" + kMarks, "<c:crossesAt val=\"2\"/>" + kMarksIn))},
@@ -433,7 +413,7 @@ std::map<std::string, Whole> WholeCharts() {
            LinesXml(
                SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}),
                "<c:dropLines/><c:hiLowLines/><c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars>" +
-                   Look(SolidXml("C00000")) + "</c:downBars></c:upDownBars>") +
+                   LookXml(SolidXml("C00000")) + "</c:downBars></c:upDownBars>") +
            AxesXml("<c:tickLblPos val=\"none\"/>", kGrid))},
       {"lines-stacked",
        PlotXml(LinesXml(SeriesXml(0, {1, 2}, Marker("square", "12")) + SeriesXml(1, {3, 4}, Marker("plus")),

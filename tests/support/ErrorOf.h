@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "runtime/RuntimeError.h"
 
 namespace plotsmith::test {
@@ -12,6 +14,17 @@ int ErrorOf(Call&& call) {
     return 0;
   } catch (const runtime::RuntimeError& e) {
     return e.Number();
+  }
+}
+
+/// Returns the text of the error of a type that a call raises, or "".
+template <class Error, class Call>
+std::string ErrorTextOf(Call&& call) {
+  try {
+    call();
+    return "";
+  } catch (const Error& e) {
+    return e.what();
   }
 }
 

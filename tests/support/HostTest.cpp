@@ -6,8 +6,10 @@
 #include "controller/CPlotsmithController.h"
 #include "controller/System.h"
 #include "forms/UnattendedView.h"
+#include "runtime/Strings.h"
 #include "tests/support/SaveFailures.h"
 #include "xlsx/Worksheet.h"
+#include "xlsx/package/Archive.h"
 
 namespace plotsmith::test {
 
@@ -52,6 +54,22 @@ void HostTest::Start(const std::string& version) {
   ResetSystem();
   host_ = xlsx::Application::Create(version);
   host_->Journal().SetSink([this](std::string_view line) { journal_.emplace_back(line); });
+}
+
+xlsx::Workbook& HostTest::OpenRenamed(const PlainBook& book, const std::string& from,
+                                      const std::string& entry, const std::string& written) {
+  book.Write(folder_ / "plain.xlsx");
+  const xlsx::Package package = xlsx::Package::Open(folder_ / "plain.xlsx");
+  std::vector<std::pair<std::string, std::string>> parts;
+  for (const std::string& part : package.Parts()) {
+    std::string bytes = package.Read(part);
+    if (part.ends_with(".rels") || part.starts_with("/[")) bytes = runtime::Replace(bytes, from, written);
+    parts.emplace_back(runtime::Replace(part.substr(1), from, entry), std::move(bytes));
+  }
+  xlsx::ArchiveWriter writer(folder_ / "renamed.xlsx");
+  for (const auto& [name, bytes] : parts) writer.Add(name, bytes);
+  writer.Finish();
+  return OpenFile(folder_ / "renamed.xlsx");
 }
 
 xlsx::Workbook& HostTest::OpenFile(const std::string& path, const std::string& version) {

@@ -45,6 +45,10 @@ class HostTest : public ::testing::Test {
 
   /// Writes the workbook and opens it as the active workbook, with the run variables set to it.
   xlsx::Workbook& Open(const PlainBook& book, const std::string& version = "16.0");
+  /// Does the same with renamed parts: `from` becomes `entry` in the zip file and `written` in the
+  /// references.
+  xlsx::Workbook& OpenRenamed(const PlainBook& book, const std::string& from, const std::string& entry,
+                              const std::string& written);
   xlsx::Workbook& OpenFile(const std::string& path, const std::string& version = "16.0");
   /// Refreshes all charts, as a host add-in does.
   void Refresh();

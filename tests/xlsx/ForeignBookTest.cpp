@@ -3,8 +3,8 @@
 #include <limits>
 #include <new>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "tests/support/ErrorOf.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/SaveFailures.h"
 #include "xlsx/SheetDrawing.h"
@@ -33,21 +33,6 @@ class ForeignBookTest : public test::HostTest {
     for (const auto& [part, edit] : edits) package.Replace(part, edit(package.Read(part)));
     package.Save(folder_ / "edited.xlsx");
     OpenFile(folder_ / "edited.xlsx");
-  }
-  /// Opens the workbook with renamed parts, both in the zip file and in the references.
-  void OpenRenamed(const PlainBook& book, const S& from, const S& entry, const S& written) {
-    book.Write(folder_ / "plain.xlsx");
-    const xlsx::Package package = Package::Open(folder_ / "plain.xlsx");
-    std::vector<std::pair<S, S>> parts;
-    for (const S& part : package.Parts()) {
-      S bytes = package.Read(part);
-      if (part.ends_with(".rels") || part.starts_with("/[")) bytes = runtime::Replace(bytes, from, written);
-      parts.emplace_back(runtime::Replace(part.substr(1), from, entry), std::move(bytes));
-    }
-    ArchiveWriter writer(folder_ / "renamed.xlsx");
-    for (const auto& [name, bytes] : parts) writer.Add(name, bytes);
-    writer.Finish();
-    OpenFile(folder_ / "renamed.xlsx");
   }
   std::shared_ptr<Worksheet> Sheet(const S& name) { return Book().FindWorksheet(name); }
   void AddBox(const S& sheet) { Sheet(sheet)->Shapes()->AddTextbox(1, 10, 10, 50, 20); }
@@ -295,15 +280,11 @@ TEST_F(ForeignBookTest, ADamagedDrawingAffectsOnlyItsSheet) {
   OpenEdited(book, {{drawing, [](const S&) { return S("<xdr:wsDr"); }}});
   Refresh();
   EXPECT_EQ(Sheet("Other")->Shapes()->Count(), 0);
-  try {
-    AddBox("Other");
-    ADD_FAILURE();
-  } catch (const runtime::RuntimeError& e) {
-    EXPECT_EQ(e.Number(), runtime::error::kApplication);
-    EXPECT_EQ(
-        e.Description(),
-        "The drawing can't be read: its part /xl/drawings/drawing1.xml can't be read: its XML is damaged.");
-  }
+  const auto addBox = [&] { AddBox("Other"); };
+  EXPECT_EQ(ErrorOf(addBox), runtime::error::kApplication);
+  EXPECT_EQ(
+      ErrorTextOf<runtime::RuntimeError>(addBox),
+      "The drawing can't be read: its part /xl/drawings/drawing1.xml can't be read: its XML is damaged.");
   EXPECT_FALSE(Book().Damage());
   SaveAndReopen();
   EXPECT_TRUE(Messages().empty());
@@ -323,12 +304,9 @@ TEST_F(ForeignBookTest, ASumBeyondAllNumbersIsAnOverflow) {
   Open(book);
   Refresh();
   EXPECT_EQ(Messages(), (std::vector<S>{"Brindle Plotsmith: PSChartBuilder.GetSourceData\nOverflow"}));
-  try {
-    Book().AddWorksheet(0)->SetCellValueAt(1, 1, std::numeric_limits<double>::infinity());
-    ADD_FAILURE();
-  } catch (const runtime::RuntimeError& e) {
-    EXPECT_EQ(e.Number(), runtime::error::kOverflow);
-  }
+  const auto sheet = Book().AddWorksheet(0);
+  EXPECT_EQ(ErrorOf([&] { sheet->SetCellValueAt(1, 1, std::numeric_limits<double>::infinity()); }),
+            runtime::error::kOverflow);
 }
 
 TEST_F(ForeignBookTest, OversizedWorkbooksAreRefused) {
@@ -340,19 +318,11 @@ TEST_F(ForeignBookTest, OversizedWorkbooksAreRefused) {
   }
   book.sheets.push_back(wide);
   Open(book);
-  try {
-    Sheet("Wide")->SetCellValueAt(1, 1, 1.0);
-    ADD_FAILURE();
-  } catch (const runtime::RuntimeError& e) {
-    EXPECT_EQ(e.Description(), "The sheet is too large to be written.");
-  }
+  EXPECT_EQ(ErrorTextOf<runtime::RuntimeError>([&] { Sheet("Wide")->SetCellValueAt(1, 1, 1.0); }),
+            "The sheet is too large to be written.");
   EXPECT_EQ(Cells("Wide", 2000, 16384, 2000, 16384), "1");
-  try {
-    Book().Guarded([]() -> int { throw std::bad_alloc(); });
-    ADD_FAILURE();
-  } catch (const runtime::RuntimeError&) {
-    EXPECT_EQ(Book().Damage(), "there is not enough memory for it");
-  }
+  EXPECT_NE(ErrorOf([&] { Book().Guarded([]() -> int { throw std::bad_alloc(); }); }), 0);
+  EXPECT_EQ(Book().Damage(), "there is not enough memory for it");
 }
 
 }  // namespace

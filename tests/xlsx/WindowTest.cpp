@@ -1,6 +1,7 @@
 #include "host/excel/Window.h"
 #include "runtime/Strings.h"
 #include "tests/support/ChartTest.h"
+#include "tests/support/ErrorOf.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith::xlsx {
@@ -106,13 +107,9 @@ TEST_F(WindowTest, RefusesSheetsWithoutCells) {
     test::EditPart(folder_ / "edited.xlsx", c.edited,
                    [&](S& text) { text = runtime::Replace(text, c.from, c.to); });
     OpenFile(folder_ / "edited.xlsx");
-    try {
-      host_->ActiveWindow()->SetDisplayGridlines(false);
-      ADD_FAILURE() << c.edited;
-    } catch (const runtime::RuntimeError& e) {
-      EXPECT_EQ(e.Number(), runtime::error::kApplication);
-      EXPECT_EQ(e.Description(), c.error);
-    }
+    const auto hide = [&] { host_->ActiveWindow()->SetDisplayGridlines(false); };
+    EXPECT_EQ(test::ErrorOf(hide), runtime::error::kApplication);
+    EXPECT_EQ(test::ErrorTextOf<runtime::RuntimeError>(hide), c.error);
     EXPECT_EQ(Book().Damage().has_value(), c.damaged);
     EXPECT_FALSE(Book().Changed());
   }

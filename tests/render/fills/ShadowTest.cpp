@@ -11,9 +11,9 @@ using render::ShadowItem;
 
 /// Shape properties with a red fill and a shadow. Lengths are EMU, angles 1/60000 degree.
 S ShadowedXml(const S& attributes, const S& alpha = "40000") {
-  return "<c:spPr><a:solidFill><a:srgbClr val=\"FF0000\"/></a:solidFill><a:effectLst><a:outerShdw " +
-         attributes + "><a:srgbClr val=\"112233\"><a:alpha val=\"" + alpha +
-         "\"/></a:srgbClr></a:outerShdw></a:effectLst></c:spPr>";
+  return LookXml(SolidXml("FF0000") + "<a:effectLst><a:outerShdw " + attributes +
+                 "><a:srgbClr val=\"112233\"><a:alpha val=\"" + alpha +
+                 "\"/></a:srgbClr></a:outerShdw></a:effectLst>");
 }
 
 S ShadowedColumns(const S& properties, const S& behind = "") {
@@ -33,10 +33,8 @@ TEST_F(ShadowTest, IsTheShapeMovedInItsDirectionBeforeTheShape) {
   for (std::size_t i = 0; i < 2; ++i) {
     const auto& shadow = std::get<ShadowItem>(shadows[i].content);
     const Rect own = BoundsOf(bars[i]), cast = BoundsOf(shadows[i]);
-    EXPECT_NEAR(cast.left - own.left, 3 * std::sqrt(0.5), 1e-9);
-    EXPECT_NEAR(cast.top - own.top, 3 * std::sqrt(0.5), 1e-9);
-    EXPECT_NEAR(cast.width, own.width, 1e-9);
-    EXPECT_NEAR(cast.height, own.height, 1e-9);
+    const double away = 3 * std::sqrt(0.5);
+    ExpectNear(cast, {own.left + away, own.top + away, own.width, own.height}, "", 1e-9);
     EXPECT_EQ(HexOf(shadow.color), "#112233");
     EXPECT_DOUBLE_EQ(shadow.color.alpha, 0.4);
     EXPECT_DOUBLE_EQ(shadow.blur, 2);
@@ -79,8 +77,7 @@ TEST_F(ShadowTest, GrowsAboutThePointOfItsAlignment) {
 TEST_F(ShadowTest, IsThrownByEveryPartOfAChart) {
   const S shadow = ShadowedXml("dist=\"38100\"");
   const S labels = "<c:dLbls>" + shadow + "<c:showVal val=\"1\"/></c:dLbls>";
-  const S title = "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>Sales</a:t></a:r></a:p></c:rich></c:tx>" +
-                  shadow + "</c:title>";
+  const S title = TitleXml("Sales", shadow);
   const S line = "<c:marker><c:symbol val=\"circle\"/>" + shadow + "</c:marker>";
   const Drawing drawing = Draw(title + "<c:plotArea>" + ColumnsXml(SeriesXml(0, {3}, shadow + labels)) +
                                LinesXml(SeriesXml(1, {2}, line)) + AxesXml() + shadow +
@@ -136,9 +133,7 @@ TEST_F(ShadowTest, ThinBarsHaveNoneAndSayIt) {
   } cases[] = {
       {"", {}}, {shadowed, {sentence}}, {"<c:dPt><c:idx val=\"7\"/>" + shadowed + "</c:dPt>", {sentence}}};
   for (const auto& [more, notes] : cases) {
-    const Drawing drawing = Draw(PlotXml(
-        GroupXml("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, std::vector<double>(20'000, 5), more)) +
-        AxesXml()));
+    const Drawing drawing = Draw(PlotXml(ColumnsXml(SeriesXml(0, Numbers(20'000, 5), more)) + AxesXml()));
     EXPECT_EQ(notes_, notes) << more;
     EXPECT_EQ(ItemsOf(drawing, Role::kShadow).size(), 0u) << more;
   }
@@ -146,8 +141,7 @@ TEST_F(ShadowTest, ThinBarsHaveNoneAndSayIt) {
 
 TEST_F(ShadowTest, OfWhatIsNotDrawnIsNotReported) {
   const S effect = "<a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst>";
-  const S line = "<c:spPr>" + effect + "</c:spPr>";
-  const S noLine = "<c:spPr><a:ln><a:noFill/></a:ln>" + effect + "</c:spPr>";
+  const S line = LookXml(effect), noLine = LookXml("<a:ln><a:noFill/></a:ln>" + effect);
   const S text = "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr>" + effect + "</a:defRPr></a:pPr></a:p></c:txPr>";
   const S title = "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:rPr>" + effect +
                   "</a:rPr><a:t>Sales</a:t></a:r></a:p></c:rich></c:tx></c:title>";
@@ -177,25 +171,20 @@ TEST_F(ShadowTest, OfWhatIsNotDrawnIsNotReported) {
   for (const auto& [axis, notes] : cases) {
     S axes = AxesXml("", axis);
     if (axis.starts_with("<c:delete")) axes = runtime::Replace(axes, shown, "");
-    Draw(PlotXml(GroupXml("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, {3, 1})) + axes));
+    Draw(PlotXml(ColumnsXml(SeriesXml(0, {3, 1})) + axes));
     EXPECT_EQ(notes_, notes) << axis;
   }
 }
 
 TEST_F(ShadowTest, ATextWithoutAFrameHasNoneAndSaysIt) {
-  const S title =
-      "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:t>Sales</a:t></a:r></a:p></c:rich></c:tx>"
-      "<c:spPr><a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst></c:spPr>"
-      "</c:title>";
-  const Drawing drawing = Draw(title + "<c:plotArea/>");
+  const S shadow = "<a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst>";
+  const Drawing drawing = Draw(TitleXml("Sales", LookXml(shadow)) + "<c:plotArea/>");
   EXPECT_EQ(ItemsOf(drawing, Role::kShadow).size(), 0u);
   EXPECT_EQ(notes_, (render::Notes{"Shadows of texts aren't drawn."}));
 }
 
 TEST_F(ShadowTest, OtherEffectsAreReported) {
-  const auto effects = [](const S& list) {
-    return "<c:spPr><a:effectLst>" + list + "</a:effectLst></c:spPr>";
-  };
+  const auto effects = [](const S& list) { return LookXml("<a:effectLst>" + list + "</a:effectLst>"); };
   struct {
     S properties;
     render::Notes notes;

@@ -1,5 +1,3 @@
-#include <cmath>
-#include <gtest/gtest.h>
 #include <map>
 
 #include "render/fills/LitFill.h"
@@ -13,12 +11,6 @@
 namespace plotsmith::test {
 namespace {
 
-using render::Drawing;
-using render::Item;
-using render::Point;
-using render::Rect;
-using render::Role;
-
 class Bodies3DTest : public Chart3DTest {};
 
 /// Returns the front rectangle of a bar in a view with right-angle axes.
@@ -30,8 +22,8 @@ Rect FrontOf(const Drawing& drawing, int series, int point) {
 }
 
 TEST_F(Bodies3DTest, FrontsAreProportionalToTheValues) {
-  for (const std::string direction : {"col", "bar"}) {
-    for (const std::string grouping : {"clustered", "stacked", "standard"}) {
+  for (const S direction : {"col", "bar"}) {
+    for (const S grouping : {"clustered", "stacked", "standard"}) {
       const Drawing drawing = Draw({.grouping = grouping, .direction = direction});
       const auto lengthOf = [&](int series, int point) {
         const Rect front = FrontOf(drawing, series, point);
@@ -51,7 +43,7 @@ TEST_F(Bodies3DTest, FrontsAreProportionalToTheValues) {
 }
 
 TEST_F(Bodies3DTest, StackedPiecesTouch) {
-  for (const std::string grouping : {"stacked", "percentStacked"}) {
+  for (const S grouping : {"stacked", "percentStacked"}) {
     const Drawing drawing = Draw({.grouping = grouping});
     for (int point = 1; point <= 4; ++point) {
       for (int series = 2; series <= 3; ++series) {
@@ -69,14 +61,14 @@ TEST_F(Bodies3DTest, StackedPiecesTouch) {
 TEST_F(Bodies3DTest, FrontsHaveTheColorAndSidesAreDarker) {
   const Drawing drawing = Draw({});
   const render::Color own{0x4F, 0x81, 0xBD, 1};
-  for (const Item* front : ItemsOf(drawing, Role::kBar, 1)) EXPECT_EQ(FillOf(*front), own);
+  for (const Item& front : ItemsOf(drawing, Role::kBar, 1)) EXPECT_EQ(FillOf(front), HexOf(own));
   const auto sides = ItemsOf(drawing, Role::kSide, 1);
   ASSERT_EQ(sides.size(), 8);  // Each bar has a side at the right and one above.
-  for (const Item* side : sides) {
-    const Rect front = FrontOf(drawing, 1, side->tag.point), bounds = BoundsOf(*side);
+  for (const Item& side : sides) {
+    const Rect front = FrontOf(drawing, 1, side.tag.point), bounds = BoundsOf(side);
     const bool atRight = std::abs(bounds.left - front.Right()) < 1e-6;
     EXPECT_NE(atRight, std::abs(bounds.Bottom() - front.top) < 1e-6);
-    EXPECT_EQ(FillOf(*side), render::Lit(own, atRight ? render::kSideLight : render::kTopLight));
+    EXPECT_EQ(FillOf(side), HexOf(render::Lit(own, atRight ? render::kSideLight : render::kTopLight)));
   }
 }
 
@@ -163,7 +155,7 @@ int HiddenPlaces(const render::Stage& stage, const render::Projection& projectio
 }
 
 TEST_F(Bodies3DTest, NoBarIsPaintedOverANearerOne) {
-  for (const std::string grouping : {"standard", "clustered"}) {
+  for (const S grouping : {"standard", "clustered"}) {
     OpenChart(Part({.grouping = grouping, .values = {4, 8, 3, 6}}));
     const render::ChartModel chart = render::ReadChart(*Book().Chart("/xl/charts/chart1.xml"), notes_);
     const render::Stage stage(chart, chart.groups[0]);
@@ -177,7 +169,7 @@ TEST_F(Bodies3DTest, NoBarIsPaintedOverANearerOne) {
           view.fieldOfView = field;
           const render::Projection projection(view, stage.Shape(view), {0, 0, 300, 200});
           Drawing drawing;
-          render::Canvas canvas(drawing, fonts_, notes_);
+          render::Canvas canvas(drawing, SharedFonts(), notes_);
           render::Plot plot{chart, {0, 0, 300, 200}, canvas};
           DrawBars3D(plot, stage, projection);
           EXPECT_EQ(HiddenPlaces(stage, projection, drawing.items), 0)
@@ -193,8 +185,8 @@ TEST_F(Bodies3DTest, StackedAreasShareTheirBorders) {
   const auto fronts = ItemsOf(drawing, Role::kArea);
   ASSERT_EQ(fronts.size(), 3);
   for (std::size_t s = 0; s + 1 < fronts.size(); ++s) {
-    const auto& lower = std::get<render::PathItem>(fronts[s]->content).path.Steps();
-    const auto& upper = std::get<render::PathItem>(fronts[s + 1]->content).path.Steps();
+    const auto& lower = std::get<PathItem>(fronts[s].content).path.Steps();
+    const auto& upper = std::get<PathItem>(fronts[s + 1].content).path.Steps();
     ASSERT_EQ(lower.size(),
               9);  // The path goes along the upper border, back along the lower one, and is closed.
     for (std::size_t i = 0; i < 4; ++i) {
@@ -209,18 +201,14 @@ TEST_F(Bodies3DTest, AreasAreBehindEachOtherWithTheFirstInFront) {
                                 .group = "area3DChart",
                                 .grouping = "standard"});
   std::vector<int> order;
-  for (const Item* front : ItemsOf(drawing, Role::kArea)) order.push_back(front->tag.series);
+  for (const Item& front : ItemsOf(drawing, Role::kArea)) order.push_back(front.tag.series);
   EXPECT_EQ(order, (std::vector{3, 2, 1}));
   // The labels of the series are along the depth, from front to back.
-  std::vector<std::string> names;
-  for (const Item* label : ItemsOf(drawing, Role::kTickLabel, 3)) {
-    names.push_back(std::get<render::TextItem>(label->content).text);
-  }
-  EXPECT_EQ(names, (std::vector<std::string>{"S1", "S2", "S3"}));
+  EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 3), (Texts{"Series 0", "Series 1", "Series 2"}));
 }
 
 /// Returns true if a point is inside a polygon: a ray from it crosses the outline an odd number of times.
-bool IsInside(Point point, const std::vector<render::PathStep>& outline) {
+bool IsInside(Point point, const std::vector<PathStep>& outline) {
   bool inside = false;
   for (std::size_t i = 0; i + 1 < outline.size(); ++i) {
     const Point a = outline[i].to, b = outline[(i + 1) % (outline.size() - 1)].to;
@@ -231,27 +219,28 @@ bool IsInside(Point point, const std::vector<render::PathStep>& outline) {
 }
 
 TEST_F(Bodies3DTest, AxisLabelsStayOnTheChartApartAndOffTheFloor) {
-  for (const std::string view : {R"(<c:rotX val="15"/><c:rotY val="20"/><c:rAngAx val="1"/>)",
-                                 R"(<c:rotX val="30"/><c:rotY val="45"/><c:perspective val="60"/>)",
-                                 R"(<c:rotX val="80"/><c:rotY val="200"/><c:perspective val="200"/>)",
-                                 R"(<c:rotX val="-20"/><c:rotY val="320"/><c:perspective val="30"/>)",
-                                 R"(<c:rotX val="30"/><c:rotY val="120"/><c:perspective val="60"/>)",
-                                 R"(<c:hPercent val="30"/><c:rotY val="70"/><c:depthPercent val="300"/>)"}) {
-    for (const std::string grouping : {"standard", "clustered"}) {
+  for (const S view : {R"(<c:rotX val="15"/><c:rotY val="20"/><c:rAngAx val="1"/>)",
+                       R"(<c:rotX val="30"/><c:rotY val="45"/><c:perspective val="60"/>)",
+                       R"(<c:rotX val="80"/><c:rotY val="200"/><c:perspective val="200"/>)",
+                       R"(<c:rotX val="-20"/><c:rotY val="320"/><c:perspective val="30"/>)",
+                       R"(<c:rotX val="30"/><c:rotY val="120"/><c:perspective val="60"/>)",
+                       R"(<c:hPercent val="30"/><c:rotY val="70"/><c:depthPercent val="300"/>)"}) {
+    for (const S grouping : {"standard", "clustered"}) {
       const Drawing drawing = Draw({.view = view, .grouping = grouping});
       const auto labels = ItemsOf(drawing, Role::kTickLabel);
       EXPECT_GE(labels.size(), 4);
-      const auto& floor = std::get<render::PathItem>(ItemsOf(drawing, Role::kFloor).at(0)->content).path;
-      for (const Item* label : labels) {
-        EXPECT_FALSE(IsInside(BoundsOf(*label).Center(), floor.Steps())) << view << grouping;
+      const auto floorItems = ItemsOf(drawing, Role::kFloor);
+      const auto& floor = std::get<PathItem>(floorItems.at(0).content).path;
+      for (const Item& label : labels) {
+        EXPECT_FALSE(IsInside(BoundsOf(label).Center(), floor.Steps())) << view << grouping;
       }
       for (std::size_t i = 0; i < labels.size(); ++i) {
-        const Rect box = BoundsOf(*labels[i]);
+        const Rect box = BoundsOf(labels[i]);
         EXPECT_TRUE(box.left >= 0 && box.top >= 0 && box.Right() <= 384 && box.Bottom() <= 270) << view;
         for (std::size_t j = 0; j < i; ++j) {
-          if (labels[i]->tag.series != labels[j]->tag.series) continue;
+          if (labels[i].tag.series != labels[j].tag.series) continue;
           // Letters are lower than their line.
-          EXPECT_FALSE(Overlap(box, BoundsOf(*labels[j]), 0.2 * box.height + 0.1)) << view << grouping;
+          EXPECT_FALSE(Overlap(box, BoundsOf(labels[j]), 0.2 * box.height + 0.1)) << view << grouping;
         }
       }
     }
@@ -261,30 +250,27 @@ TEST_F(Bodies3DTest, AxisLabelsStayOnTheChartApartAndOffTheFloor) {
 TEST_F(Bodies3DTest, BarsHaveTheShapesInTheFile) {
   struct Case {
     const char* shape;
-    double narrowed;  ///< The ratio of the front widths of the second series at its end and at its base, in a
-                      ///< stack.
+    bool narrows;  ///< Whether a bar is narrower at its end than at its base.
     std::size_t faces;
   };
-  for (const Case& c : {Case{"box", 1, 3}, Case{"cylinder", 1, 2}, Case{"pyramid", 0.6, 3},
-                        Case{"cone", 0.6, 2}, Case{"coneToMax", 0.78, 2}}) {
-    const Drawing drawing = Draw({.view = R"(<c:rotX val="15"/><c:rotY val="20"/><c:rAngAx val="1"/>)",
-                                  .grouping = "stacked",
-                                  .behind = std::string("<c:shape val=\"") + c.shape + "\"/>",
-                                  .values = {4, 8}});
+  for (const Case& c : {Case{"box", false, 3}, Case{"cylinder", false, 2}, Case{"pyramid", true, 3},
+                        Case{"cone", true, 2}, Case{"coneToMax", true, 2}}) {
+    const Drawing drawing =
+        Draw({.grouping = "stacked", .behind = S("<c:shape val=\"") + c.shape + "\"/>", .values = {4, 8}});
     const auto sides = ItemsOf(drawing, Role::kSide, 2);
     const auto fronts = ItemsOf(drawing, Role::kBar, 2);
     ASSERT_EQ(fronts.size(), 2) << c.shape;
     EXPECT_EQ((sides.size() + fronts.size()) / 2, c.faces) << c.shape;
     // Both bars of a category have the same width where they meet.
     const Rect lower = FrontOf(drawing, 1, 1), upper = FrontOf(drawing, 2, 1);
-    EXPECT_TRUE(c.narrowed == 1 ? upper.width == lower.width : upper.width < lower.width * 0.99) << c.shape;
+    EXPECT_TRUE(c.narrows ? upper.width < lower.width * 0.99 : upper.width == lower.width) << c.shape;
   }
 }
 
 TEST_F(Bodies3DTest, NotesAndOddFilesLeaveTheChartDrawn) {
-  for (const std::string view : {"", R"(<c:rotX val="1e308"/><c:rotY val="-5"/>)", R"(<c:hPercent val="0"/>)",
-                                 R"(<c:depthPercent val="NaN"/><c:perspective val="999"/>)"}) {
-    for (const std::string behind : {R"(<c:gapWidth val="1e9"/><c:gapDepth val="-3"/>)", ""}) {
+  for (const S view : {"", R"(<c:rotX val="1e308"/><c:rotY val="-5"/>)", R"(<c:hPercent val="0"/>)",
+                       R"(<c:depthPercent val="NaN"/><c:perspective val="999"/>)"}) {
+    for (const S behind : {R"(<c:gapWidth val="1e9"/><c:gapDepth val="-3"/>)", ""}) {
       const Drawing drawing = Draw({.view = view, .behind = behind});
       EXPECT_EQ(ItemsOf(drawing, Role::kBar).size(), 12) << view;
       for (const Item& item : drawing.items) {

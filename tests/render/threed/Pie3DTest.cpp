@@ -1,6 +1,3 @@
-#include <algorithm>
-#include <cmath>
-#include <gtest/gtest.h>
 #include <numbers>
 
 #include "tests/render/threed/Chart3DTest.h"
@@ -9,27 +6,15 @@
 namespace plotsmith::test {
 namespace {
 
-using render::Drawing;
-using render::Item;
-using render::Rect;
-using render::Role;
-
 class Pie3DTest : public Chart3DTest {};
-
-Rect BoundsOfAll(const std::vector<const Item*>& items) {
-  Rect bounds = BoundsOf(*items.at(0));
-  for (const Item* item : items) bounds = Union(bounds, BoundsOf(*item));
-  return bounds;
-}
 
 TEST_F(Pie3DTest, TheDiscIsAsFlatAsTheElevationSays) {
   for (const double elevation : {10, 30, 45, 80}) {
     const Drawing drawing =
         Draw({.view = "<c:rotX val=\"" + xlsx::xml::Number(elevation) + "\"/><c:rotY val=\"0\"/>",
               .group = "pie3DChart"});
-    const auto slices = ItemsOf(drawing, Role::kSlice);
-    ASSERT_EQ(slices.size(), 4);
-    const Rect top = BoundsOfAll(slices), sides = BoundsOfAll(ItemsOf(drawing, Role::kSide));
+    ASSERT_EQ(ItemsOf(drawing, Role::kSlice).size(), 4);
+    const Rect top = BoxOf(drawing, Role::kSlice), sides = BoxOf(drawing, Role::kSide);
     EXPECT_NEAR(top.height / top.width, std::sin(elevation * std::numbers::pi / 180), 1e-3) << elevation;
     // The rim is below the upper side. It is thinner in a view from above.
     EXPECT_NEAR((sides.Bottom() - top.Bottom()) / top.width,
@@ -46,9 +31,9 @@ TEST_F(Pie3DTest, SlicesMeetOnTheirEdgesAndBeginWhereTheViewIsTurnedTo) {
               .values = {1, 1, 2}});
     const auto slices = ItemsOf(drawing, Role::kSlice);
     ASSERT_EQ(slices.size(), 3);
-    const Rect disc = BoundsOfAll(slices);
+    const Rect disc = BoxOf(drawing, Role::kSlice);
     const auto stepsOf = [&](std::size_t i) {
-      return std::get<render::PathItem>(slices[i % 3]->content).path.Steps();
+      return std::get<PathItem>(slices[i % 3].content).path.Steps();
     };
     for (std::size_t i = 0; i < 3; ++i) {
       // The path of a slice goes from the middle to the edge, along it, and back.
@@ -56,19 +41,15 @@ TEST_F(Pie3DTest, SlicesMeetOnTheirEdgesAndBeginWhereTheViewIsTurnedTo) {
       EXPECT_NEAR(end.x, next.x, 1e-6);
       EXPECT_NEAR(end.y, next.y, 1e-6);
     }
-    const render::Point begin = stepsOf(0)[1].to;
+    const Point begin = stepsOf(0)[1].to;
     EXPECT_NEAR(begin.x, disc.Center().x + disc.width / 2 * std::sin(rotation * std::numbers::pi / 180),
                 0.02);
   }
 }
 
 TEST_F(Pie3DTest, NothingIsPaintedOverTheUpperSides) {
-  for (const std::string exploded : {"", "<c:explosion val=\"40\"/>"}) {
-    OpenChart(Part({.group = "pie3DChart"}));
-    std::string part = Part({.view = "<c:rotX val=\"30\"/>", .group = "pie3DChart"});
-    part.insert(part.find("<c:cat>"), exploded);
-    OpenChart(part);
-    const Drawing drawing = DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, fonts_, notes_);
+  for (const S exploded : {"", "<c:explosion val=\"40\"/>"}) {
+    const Drawing drawing = Draw({.view = "<c:rotX val=\"30\"/>", .group = "pie3DChart", .inside = exploded});
     int slices = 0;
     for (const Item& item : drawing.items) {
       if (item.tag.role == Role::kSlice) ++slices;
@@ -84,37 +65,31 @@ TEST_F(Pie3DTest, NothingIsPaintedOverTheUpperSides) {
 }
 
 TEST_F(Pie3DTest, SlicesGoOutAlongTheDisc) {
-  std::string part = Part(
-      {.view = "<c:rotX val=\"30\"/><c:rotY val=\"0\"/>", .group = "pie3DChart", .values = {1, 1, 1, 1}});
-  part.insert(part.find("<c:cat>"), "<c:explosion val=\"50\"/>");
-  OpenChart(part);
-  const Drawing drawing = DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, fonts_, notes_);
+  const Drawing drawing = Draw({.view = "<c:rotX val=\"30\"/><c:rotY val=\"0\"/>",
+                                .group = "pie3DChart",
+                                .inside = "<c:explosion val=\"50\"/>",
+                                .values = {1, 1, 1, 1}});
   const auto slices = ItemsOf(drawing, Role::kSlice);
   ASSERT_EQ(slices.size(), 4);
-  const auto tipOf = [&](std::size_t i) {
-    return std::get<render::PathItem>(slices[i]->content).path.Steps()[0].to;
-  };
-  const Rect slice = BoundsOf(*slices[0]);  // A quarter is as wide as the radius.
+  const auto tipOf = [&](std::size_t i) { return std::get<PathItem>(slices[i].content).path.Steps()[0].to; };
+  const Rect slice = BoundsOf(slices[0]);  // A quarter is as wide as the radius.
   // Each slice is moved by half of the radius, at 45 degrees on the disc.
   EXPECT_NEAR((tipOf(0).x - tipOf(3).x) / 2, slice.width * 0.5 * std::numbers::sqrt2 / 2, 0.02);
   EXPECT_NEAR((tipOf(1).y - tipOf(0).y) / 2, slice.height * 0.5 * std::numbers::sqrt2 / 2, 0.02);
 }
 
 TEST_F(Pie3DTest, LabelsOutsideStayClearOfTheDiscAndItsRim) {
-  for (const std::string rotation : {"0", "45", "100"}) {
-    std::string part =
-        Part({.view = "<c:rotX val=\"30\"/><c:rotY val=\"" + rotation + "\"/>", .group = "pie3DChart"});
-    part.insert(
-        part.find("<c:cat>"),
-        "<c:dLbls><c:dLblPos val=\"outEnd\"/><c:showVal val=\"1\"/><c:showCatName val=\"1\"/></c:dLbls>");
-    OpenChart(part);
-    const Drawing drawing = DrawChart(*Book().Chart("/xl/charts/chart1.xml"), 384, 270, fonts_, notes_);
-    const Rect top = BoundsOfAll(ItemsOf(drawing, Role::kSlice));
-    const double drop = BoundsOfAll(ItemsOf(drawing, Role::kSide)).Bottom() - top.Bottom();
-    const auto labels = ItemsOf(drawing, Role::kDataLabel);
-    EXPECT_EQ(labels.size(), 4);
-    for (const Item* label : labels) {
-      const Rect box = BoundsOf(*label);
+  const S labels =
+      "<c:dLbls><c:dLblPos val=\"outEnd\"/><c:showVal val=\"1\"/><c:showCatName val=\"1\"/></c:dLbls>";
+  for (const S rotation : {"0", "45", "100"}) {
+    const Drawing drawing = Draw({.view = "<c:rotX val=\"30\"/><c:rotY val=\"" + rotation + "\"/>",
+                                  .group = "pie3DChart",
+                                  .inside = labels});
+    const Rect top = BoxOf(drawing, Role::kSlice);
+    const double drop = BoxOf(drawing, Role::kSide).Bottom() - top.Bottom();
+    const auto boxes = BoxesOf(drawing, Role::kDataLabel);
+    EXPECT_EQ(boxes.size(), 4);
+    for (const Rect& box : boxes) {
       EXPECT_TRUE(box.left >= 0 && box.top >= 0 && box.Right() <= 384 && box.Bottom() <= 270);
       for (const double x : {box.left, box.Center().x, box.Right()}) {
         for (const double y : {box.top, box.Bottom()}) {

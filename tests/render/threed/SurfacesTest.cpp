@@ -7,7 +7,7 @@ namespace {
 
 using namespace test;
 
-const S kScale = "<c:scaling><c:max val=\"30\"/><c:min val=\"0\"/></c:scaling><c:majorUnit val=\"10\"/>";
+const S kScale = ScalingXml("0", "30") + "<c:majorUnit val=\"10\"/>";
 
 /// Returns the area of a path of polygons in square points.
 double AreaOf(const Item& item) {
@@ -32,13 +32,9 @@ class SurfacesTest : public DrawingTest {
                       const S& last = "", const S& view = "", const S& value = kScale, const S& legend = "") {
     S series;
     for (std::size_t i = 0; i < rows.size(); ++i) series += SeriesXml(static_cast<int>(i), rows[i]);
-    S axes = AxesXml("", value);
-    const S depth =
-        "<c:serAx><c:axId val=\"3\"/><c:scaling/><c:delete val=\"0\"/><c:axPos val=\"b\"/>"
-        "<c:crossAx val=\"1\"/></c:serAx>";
-    return Draw("<c:autoTitleDeleted val=\"1\"/><c:view3D>" + view + "</c:view3D><c:plotArea>" +
-                GroupXml(element, first, series, last + "<c:axId val=\"3\"/>") + axes + depth +
-                "</c:plotArea><c:legend>" + legend + "</c:legend>");
+    const S group = GroupXml(element, first, series, last + "<c:axId val=\"3\"/>");
+    return Draw(
+        Plot3DXml(view, group + AxesXml("", value) + DepthAxisXml(), "<c:legend>" + legend + "</c:legend>"));
   }
 };
 
@@ -66,8 +62,7 @@ TEST_F(SurfacesTest, ContoursSplitTheGroundByValue) {
 
 TEST_F(SurfacesTest, LegendsHaveTheBands) {
   const S format =
-      "<c:bandFmts><c:bandFmt><c:idx val=\"1\"/><c:spPr><a:solidFill><a:srgbClr val=\"FFC000\"/>"
-      "</a:solidFill></c:spPr></c:bandFmt></c:bandFmts>";
+      "<c:bandFmts><c:bandFmt><c:idx val=\"1\"/>" + LookXml(SolidXml("FFC000")) + "</c:bandFmt></c:bandFmts>";
   for (const char* element : {"surfaceChart", "surface3DChart"}) {
     const Drawing drawing = DrawSurface(element, {{0, 30}, {30, 0}}, "", format);
     EXPECT_EQ(TextsOf(drawing, Role::kLegendEntry), (Texts{"20-30", "10-20", "0-10"})) << element;
@@ -90,17 +85,14 @@ TEST_F(SurfacesTest, LegendsHaveTheBands) {
 }
 
 TEST_F(SurfacesTest, BandsFollowTheUnitsOfTheirAxis) {
-  const auto scaling = [](const S& least, const S& most, const S& base = "") {
-    return "<c:scaling>" + base + "<c:max val=\"" + most + "\"/><c:min val=\"" + least + "\"/></c:scaling>";
-  };
   const S thousands = "<c:dispUnits><c:builtInUnit val=\"thousands\"/></c:dispUnits>";
   struct {
     S axis;
     Texts bands;
   } const kCases[] = {
-      {scaling("-1", "2.5") + "<c:majorUnit val=\"1\"/>", {"2-2.5", "1-2", "0-1", "-1-0"}},
-      {scaling("1", "1000", "<c:logBase val=\"10\"/>"), {"100-1000", "10-100", "1-10"}},
-      {scaling("0", "4000") + "<c:majorUnit val=\"2000\"/>" + thousands, {"2-4", "0-2"}},
+      {ScalingXml("-1", "2.5") + "<c:majorUnit val=\"1\"/>", {"2-2.5", "1-2", "0-1", "-1-0"}},
+      {ScalingXml("1", "1000", "<c:logBase val=\"10\"/>"), {"100-1000", "10-100", "1-10"}},
+      {ScalingXml("0", "4000") + "<c:majorUnit val=\"2000\"/>" + thousands, {"2-4", "0-2"}},
   };
   for (const auto& test : kCases) {
     const Drawing drawing = DrawSurface("surface3DChart", {{1, 2}, {2, 1}}, "", "", "", test.axis);

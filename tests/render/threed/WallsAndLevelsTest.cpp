@@ -5,19 +5,14 @@ namespace {
 
 using namespace test;
 
-class WallsAndLevelsTest : public DrawingTest {
- protected:
-  Drawing DrawColumns(const S& series, bool lying = false, const S& before = "") {
-    const S chart =
-        "<c:autoTitleDeleted val=\"1\"/><c:view3D><c:rotX val=\"15\"/><c:rotY val=\"20\"/><c:rAngAx "
-        "val=\"1\"/></c:view3D><c:plotArea>" +
-        GroupXml("bar3DChart", S("<c:barDir val=\"") + (lying ? "bar" : "col") + "\"/>", series) +
-        AxesXml("", "", lying) + "</c:plotArea>";
-    S part = ChartPartXml(chart);
-    part.insert(part.find("<c:chart>"), before);
-    return DrawPart(part);
-  }
-};
+/// Returns a chart part with 3-D columns. `axis` has elements of the category axis.
+S SolidColumns(const Numbers& values, const S& axis = "") {
+  return ChartPartXml(
+      Plot3DXml("<c:rotX val=\"15\"/><c:rotY val=\"20\"/><c:rAngAx val=\"1\"/>",
+                GroupXml("bar3DChart", "<c:barDir val=\"col\"/>", SeriesXml(0, values)) + AxesXml(axis)));
+}
+
+using WallsAndLevelsTest = DrawingTest;
 
 TEST_F(WallsAndLevelsTest, WallsOfDarkStylesAreFilled) {
   struct {
@@ -25,8 +20,9 @@ TEST_F(WallsAndLevelsTest, WallsOfDarkStylesAreFilled) {
     S fill;
   } const kCases[] = {{2, ""}, {34, "#E7E7E7"}, {35, "#E9EDF4"}, {42, "#3F3F3F"}};
   for (const auto& test : kCases) {
-    const Drawing drawing =
-        DrawColumns(SeriesXml(0, {1, 2}), false, "<c:style val=\"" + std::to_string(test.style) + "\"/>");
+    S part = SolidColumns({1, 2});
+    part.insert(part.find("<c:chart>"), "<c:style val=\"" + std::to_string(test.style) + "\"/>");
+    const Drawing drawing = DrawPart(part);
     Texts fills;
     for (const Role role : {Role::kWall, Role::kFloor}) {
       for (const auto& item : ItemsOf(drawing, role)) {
@@ -38,13 +34,9 @@ TEST_F(WallsAndLevelsTest, WallsOfDarkStylesAreFilled) {
 }
 
 TEST_F(WallsAndLevelsTest, GridlinesAndMarksAreAtTheEdgesOfCategories) {
-  const S series = SeriesXml(0, {1, 2, 3});
   for (const S orientation : {"minMax", "maxMin"}) {
     const S axis = "<c:scaling><c:orientation val=\"" + orientation + "\"/></c:scaling><c:majorGridlines/>";
-    const Drawing drawing = Draw(
-        "<c:autoTitleDeleted val=\"1\"/><c:view3D><c:rotX val=\"15\"/><c:rotY val=\"20\"/><c:rAngAx "
-        "val=\"1\"/></c:view3D><c:plotArea>" +
-        GroupXml("bar3DChart", "<c:barDir val=\"col\"/>", series) + AxesXml(axis) + "</c:plotArea>");
+    const Drawing drawing = DrawPart(SolidColumns({1, 2, 3}, axis));
     const Rect line = BoxOf(drawing, Role::kAxisLine, 1);
     for (const Role role : {Role::kGridline, Role::kTickMark}) {
       const auto items = BoxesOf(drawing, role, 1);
@@ -63,11 +55,9 @@ TEST_F(WallsAndLevelsTest, ALongSlantedLabelStaysOnTheChart) {
   for (const S rotation : {"-2700000", "2700000"}) {
     Texts texts = names;
     if (rotation[0] != '-') std::reverse(texts.begin(), texts.end());
-    const S turned =
-        "<c:txPr><a:bodyPr rot=\"" + rotation + "\"/><a:p><a:pPr><a:defRPr/></a:pPr></a:p></c:txPr>";
-    const Drawing drawing = Draw(
-        PlotXml(ColumnsXml(SeriesXml(0, Numbers(12, 1), "", "", CategoriesXml(texts))) + AxesXml(turned)), "",
-        384, 400);
+    const S columns = ColumnsXml(SeriesXml(0, Numbers(12, 1), "", "", CategoriesXml(texts)));
+    const Drawing drawing =
+        Draw(PlotXml(columns + AxesXml(BodyXml("rot=\"" + rotation + "\""))), "", 384, 400);
     EXPECT_EQ(DrawingComplaints(drawing), "") << rotation;
     const Texts labels = TextsOf(drawing, Role::kTickLabel, 1);
     ASSERT_EQ(labels.size(), 12u) << rotation;

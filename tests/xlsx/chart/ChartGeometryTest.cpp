@@ -42,6 +42,8 @@ TEST(TextMetricsTest, TextsAreAsWideAsTheirFontsMakeThem) {
   EXPECT_NEAR(LineHeight({"Calibri", 10, false}), 12.207, 1e-9);
 }
 
+const S kBothAxes = "<c:catAx><c:axPos val=\"b\"/></c:catAx><c:valAx><c:axPos val=\"l\"/></c:valAx>";
+
 class ChartGeometryTest : public test::ChartTest {
  protected:
   /// Returns the plot area of a chart of 384 by 270 points with the given layout.
@@ -146,6 +148,7 @@ TEST_F(ChartGeometryTest, ScalesFollowTheSettingsOfTheAxis) {
       {"side by side", "barChart", grouping("clustered") + two, "", "", 0, 120},
       {"stacked", "barChart", grouping("stacked") + two, "", "", 0, 180},
       {"shares", "barChart", grouping("percentStacked") + two, "", "", 0, 1},
+      {"areas", "areaChart", two, "", "", 0, 120},
       {"no space in 3-D", "bar3DChart", series(0, wide), "", "", 0, 100},
       {"across", "scatterChart", series(0, numbers("xVal", "0", "9") + wide), "", "", 0, 120},
   };
@@ -195,7 +198,6 @@ TEST_F(ChartGeometryTest, ALegendAboveOrBelowHasAsManyRowsAsItsEntriesFill) {
 }
 
 TEST_F(ChartGeometryTest, ThePlotAreaHasItsManualLayoutOrTheFreeSpace) {
-  const S axes = "<c:catAx><c:axPos val=\"b\"/></c:catAx><c:valAx><c:axPos val=\"l\"/></c:valAx>";
   const S title =
       "<c:title><c:tx><c:rich><a:p><a:r><a:rPr sz=\"2000\"/><a:t>T</a:t></a:r></a:p></c:rich></c:tx>"
       "<c:overlay val=\"0\"/></c:title>";
@@ -207,58 +209,33 @@ TEST_F(ChartGeometryTest, ThePlotAreaHasItsManualLayoutOrTheFreeSpace) {
   // The width of "1250" in Calibri 10, and a gap.
   const double labels = 4 * 5.07 + 5;
   const double entry = 0.01 * (890 + 229 + 525 + 471 + 498 + 335 + 391 - 4.0) + 24 + 8;
+  const S middle = "<c:x val=\"0.25\"/><c:y val=\"0.1\"/><c:w val=\"0.5\"/><c:h val=\"0.5\"/>";
   const struct {
     const char* what;
-    S before, layout, axes, behind;
     Frame frame;
+    S before = "", layout = "", behind = "", axes = kBothAxes;
   } cases[] = {
-      {"nothing else", "", "<c:layout/>", axes, "", {7, 7, 370, 256}},
-      {"a title", title, "", axes, "", {7, 7 + titleDepth, 370, 256 - titleDepth}},
-      {"a title over it", runtime::Replace(title, "\"0\"", "\"1\""), "", axes, "", {7, 7, 370, 256}},
-      {"a legend on the right", "", "", axes, "<c:legend/>", {7, 7, 370 - entry, 256}},
-      {"one below",
-       "",
-       "",
-       axes,
-       "<c:legend><c:legendPos val=\"b\"/></c:legend>",
-       {7, 7, 370, 256 - line - 8}},
-      {"axis titles",
-       "",
-       "",
-       runtime::Replace(axes, "\"/></", "\"/><c:title/></"),
-       "",
-       {7 + line + 7.2, 7, 370 - line - 7.2, 256 - line - 7.2}},
-      {"of hidden axes",
-       "",
-       "",
-       runtime::Replace(axes, "<c:axPos", "<c:delete val=\"1\"/><c:title/><c:axPos"),
-       "",
-       {7, 7, 370, 256}},
-      {"manual",
-       "",
-       manual(edges + "<c:x val=\"0.25\"/><c:y val=\"0.1\"/><c:w val=\"0.5\"/><c:h val=\"0.5\"/>"),
-       axes,
-       "",
-       {96, 27, 192, 135}},
+      {"nothing else", {7, 7, 370, 256}, "", "<c:layout/>"},
+      {"a title", {7, 7 + titleDepth, 370, 256 - titleDepth}, title},
+      {"a title over it", {7, 7, 370, 256}, runtime::Replace(title, "\"0\"", "\"1\"")},
+      {"a legend on the right", {7, 7, 370 - entry, 256}, "", "", "<c:legend/>"},
+      {"one below", {7, 7, 370, 256 - line - 8}, "", "", "<c:legend><c:legendPos val=\"b\"/></c:legend>"},
+      {.what = "axis titles",
+       .frame = {7 + line + 7.2, 7, 370 - line - 7.2, 256 - line - 7.2},
+       .axes = runtime::Replace(kBothAxes, "\"/></", "\"/><c:title/></")},
+      {.what = "of hidden axes",
+       .frame = {7, 7, 370, 256},
+       .axes = runtime::Replace(kBothAxes, "<c:axPos", "<c:delete val=\"1\"/><c:title/><c:axPos")},
+      {"manual", {96, 27, 192, 135}, "", manual(edges + middle)},
       {"manual, without its labels",
+       {96 - labels, 27, 192 + labels, 135 + line + 5},
        "",
-       manual("<c:layoutTarget val=\"inner\"/>" + edges +
-              "<c:x val=\"0.25\"/><c:y val=\"0.1\"/><c:w val=\"0.5\"/><c:h val=\"0.5\"/>"),
-       axes,
-       "",
-       {96 - labels, 27, 192 + labels, 135 + line + 5}},
-      {"moved relative to its automatic position",
-       "",
-       manual("<c:x val=\"0.25\"/>"),
-       axes,
-       "",
-       {103, 7, 370, 256}},
+       manual("<c:layoutTarget val=\"inner\"/>" + edges + middle)},
+      {"moved relative to its automatic position", {103, 7, 370, 256}, "", manual("<c:x val=\"0.25\"/>")},
       {"up to an edge",
+       {96, 7, 192, 256},
        "",
-       manual(edges + "<c:wMode val=\"edge\"/><c:x val=\"0.25\"/><c:w val=\"0.75\"/>"),
-       axes,
-       "",
-       {96, 7, 192, 256}},
+       manual(edges + "<c:wMode val=\"edge\"/><c:x val=\"0.25\"/><c:w val=\"0.75\"/>")},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.what);

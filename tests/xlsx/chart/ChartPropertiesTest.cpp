@@ -295,22 +295,6 @@ TEST_F(ChartPropertiesTest, AChartCachesOnlyAsManyCellsAsItCanContain) {
   EXPECT_EQ(test::CountOf(after, "<c:ptCount val=\"2097152\"/>"), 1U);
 }
 
-TEST_F(ChartPropertiesTest, ScalesCoverWhatIsDrawn) {
-  struct Case {
-    std::int32_t type;
-    double minimum, maximum;
-  };
-  // The amounts are 10, 5, 7 and 1, in two series.
-  for (const Case& c : {Case{51, 0, 12}, Case{52, 0, 25}, Case{53, 0, 1}, Case{54, 0, 10}, Case{1, 0, 12}}) {
-    SCOPED_TRACE(c.type);
-    After(kNothing, [&](Chart& chart) {
-      for (int i = 0; i < 2; ++i) AddOfType(chart, c.type);
-      EXPECT_EQ(chart.Axes(2, 1)->MinimumScale(), c.minimum);
-      EXPECT_EQ(chart.Axes(2, 1)->MaximumScale(), c.maximum);
-    });
-  }
-}
-
 TEST_F(ChartPropertiesTest, LegendEntriesAreDeletedWithTheirSeries) {
   const auto draw = [](Chart& chart) {
     DeleteSeries(chart);

@@ -9,7 +9,6 @@
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/base/Limits.h"
-#include "xlsx/package/Archive.h"
 #include "xlsx/package/Xml.h"
 
 namespace plotsmith::xlsx {
@@ -408,19 +407,7 @@ TEST_F(ChartShapesTest, ThePartOfShapesIsInTheFolderOfTheWorkbook) {
   test::PlainBook book;
   book.sheets = {test::SalesSheet("Sheet1")};
   book.sheets[0].frames = {{"id", kBubbles}};
-  book.Write(folder_ / "plain.xlsx");
-  const Package package = Package::Open(folder_ / "plain.xlsx");
-  std::vector<std::pair<S, S>> parts;
-  for (const S& part : package.Parts()) {
-    const bool names = part.ends_with(".rels") || part.starts_with("/[");
-    const S bytes = package.Read(part);
-    parts.emplace_back(runtime::Replace(part, "/xl/", "/book/").substr(1),
-                       names ? runtime::Replace(bytes, "xl/", "book/") : bytes);
-  }
-  ArchiveWriter writer(folder_ / "moved.xlsx");
-  for (const auto& [name, bytes] : parts) writer.Add(name, bytes);
-  writer.Finish();
-  OpenFile(folder_ / "moved.xlsx");
+  OpenRenamed(book, "xl/", "book/", "book/");
   DrawLegend();
   SaveAndReopen();
   EXPECT_EQ(Chart()->Shapes()->Count(), 1);

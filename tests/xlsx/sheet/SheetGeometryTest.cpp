@@ -38,41 +38,38 @@ TEST(SheetGeometryTest, ADigitIsAsWideAsItsFontHasIt) {
 }
 
 // In Calibri 11, a digit has 7 pixels and a pixel has 0.75 points.
+const std::vector<double> kUsualColumns(5, 48), kUsualRows(5, 15);
+
 TEST(SheetGeometryTest, SizesComeFromTheHeadAndFromSingleRows) {
   const struct {
     const char* head;
-    std::vector<std::pair<std::int32_t, double>> rows;
-    std::vector<double> columnSizes, rowSizes;  ///< Of the first five.
+    std::vector<double> columnSizes = kUsualColumns, rowSizes = kUsualRows;  ///< Of the first five.
+    std::vector<std::pair<std::int32_t, double>> rows = {};
   } cases[] = {
-      {"<w>", {}, {48, 48, 48, 48, 48}, {15, 15, 15, 15, 15}},
-      {"<w><sheetFormatPr baseColWidth='10'/>", {}, {60, 60, 60, 60, 60}, {15, 15, 15, 15, 15}},
+      {"<w>"},
+      {"<w><sheetFormatPr baseColWidth='10'/>", {60, 60, 60, 60, 60}},
       {"<w><sheetFormatPr baseColWidth='10' defaultColWidth='10.7109375' defaultRowHeight='20'/>",
-       {{1, 30}, {2, 30}, {4, 30}, {5, 0}},
        {56.25, 56.25, 56.25, 56.25, 56.25},
-       {30, 30, 20, 30, 0}},
+       {30, 30, 20, 30, 0},
+       {{1, 30}, {2, 30}, {4, 30}, {5, 0}}},
       {"<w><sheetFormatPr defaultRowHeight='20' zeroHeight='1'/>",
-       {{1, 9.5}},
-       {48, 48, 48, 48, 48},
-       {9.5, 0, 0, 0, 0}},
+       kUsualColumns,
+       {9.5, 0, 0, 0, 0},
+       {{1, 9.5}}},
       {"<w><cols><col min='4' max='4' width='0'/><col min='1' max='1' width='20.7109375'/>"
        "<col min='2' max='3' width='9' hidden='1'/></cols>",
-       {},
-       {108.75, 0, 0, 0, 48},
-       {15, 15, 15, 15, 15}},
+       {108.75, 0, 0, 0, 48}},
       // A column without a width has the default one, also if the default comes later.
       {"<w><cols><col min='2' max='2'/></cols><sheetFormatPr defaultColWidth='1'/>",
-       {},
-       {5.25, 5.25, 5.25, 5.25, 5.25},
-       {15, 15, 15, 15, 15}},
+       {5.25, 5.25, 5.25, 5.25, 5.25}},
       // Ranges that overlap or lie outside, sizes beyond Excel's limits.
       {"<w><cols><col min='2' max='3' width='1'/><col min='3' max='5' width='9'/><col min='0' max='1' "
        "width='9'/><col min='5' max='16385' width='9'/><col max='9' width='3'/><col min='5' width='3'/>"
        "<col min='5' max='4' width='3'/></cols>",
-       {{2, 1000}, {1, 50}, {3, -2}},
        {48, 5.25, 5.25, 48, 48},
-       {15, 409.5, 0, 15, 15}},
+       {15, 409.5, 0, 15, 15},
+       {{2, 1000}, {1, 50}, {3, -2}}},
       {"<w><sheetFormatPr defaultRowHeight='1000'/><cols><col min='1' max='16384' width='300'/></cols>",
-       {},
        {1338.75, 1338.75, 1338.75, 1338.75, 1338.75},
        {409.5, 409.5, 409.5, 409.5, 409.5}},
   };

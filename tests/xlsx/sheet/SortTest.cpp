@@ -1,7 +1,7 @@
 #include <functional>
 
-#include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
+#include "tests/support/ErrorOf.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Worksheet.h"
 
@@ -84,12 +84,7 @@ TEST_F(SortTest, UnsupportedSortsAreError1004) {
   test::PlainBook book = test::SalesBook({});
   const auto expectError = [&](const std::function<void(Worksheet&)>& call) {
     Open(book);
-    try {
-      call(*Book().FindWorksheet("Data1"));
-      ADD_FAILURE() << "no error";
-    } catch (const runtime::RuntimeError& e) {
-      EXPECT_EQ(e.Number(), 1004);
-    }
+    EXPECT_EQ(test::ErrorOf([&] { call(*Book().FindWorksheet("Data1")); }), 1004);
     EXPECT_EQ(Cells("Data1", 2, 1, 3, 1), "East\nWest");
   };
   const auto sort = [](Worksheet& sheet, std::int32_t column, std::int32_t order, std::int32_t header,
