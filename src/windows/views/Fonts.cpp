@@ -53,13 +53,10 @@ HFONT Fonts::Find(const forms::Font& font) {
 }
 
 SIZE TextSize(HFONT font, const std::wstring& text) {
-  const FontContext context(font);
   RECT area = {};
-  DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &area, DT_CALCRECT | DT_SINGLELINE);
-  ABC last = {};
-  const bool isKnown = !text.empty() && GetCharABCWidthsW(context, text.back(), text.back(), &last);
-  const LONG past = isKnown ? std::max(0, -last.abcC) : 0;
-  return {area.right + past, area.bottom};
+  DrawTextW(FontContext(font), text.c_str(), static_cast<int>(text.size()), &area,
+            DT_CALCRECT | DT_SINGLELINE);
+  return {area.right, area.bottom};
 }
 
 SIZE CharacterSize(HFONT font) {

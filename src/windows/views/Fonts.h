@@ -33,8 +33,7 @@ class Fonts {
   std::map<Key, std::unique_ptr<std::remove_pointer_t<HFONT>, Delete>> fonts_;
 };
 
-/// Returns the size of a text in pixels, including the part of the last letter that lies past its width, as
-/// in some fonts an "f" or a "t". An "&" before a letter has no width.
+/// Returns the size of a text in pixels. An "&" before a letter has no width.
 SIZE TextSize(HFONT font, const std::wstring& text);
 /// Returns the height of a line and the average width of a character, in pixels.
 SIZE CharacterSize(HFONT font);

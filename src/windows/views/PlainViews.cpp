@@ -14,6 +14,7 @@ namespace {
 // Lengths at 96 dots per inch.
 constexpr int kTitleMargin = 12, kFrameMargin = 9;
 constexpr int kBarHeight = 17;
+constexpr int kLabelMargin = 2;
 constexpr double kPointsPerInch = 72;
 
 }  // namespace
@@ -21,9 +22,10 @@ constexpr double kPointsPerInch = 72;
 LabelView::LabelView(forms::Label& model, const Stage& stage)
     : ControlView(model, stage, {WC_STATICW, SS_LEFT}), model_(model) {}
 
+// In some fonts a last "t" or "f" is painted past the width of the text.
 forms::Size LabelView::LeastSize() const {
   const SIZE text = TextSize(Font(), com::Wide(model_.Caption()));
-  return {static_cast<int>(text.cx), static_cast<int>(text.cy)};
+  return {static_cast<int>(text.cx) + Scaled(kLabelMargin), static_cast<int>(text.cy)};
 }
 
 FrameView::FrameView(forms::Frame& model, const Stage& stage)
