@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <iterator>
 #include <nlohmann/json.hpp>
 #include <sstream>
 #include <vector>

@@ -9,7 +9,6 @@
 #include "common/Worksheets.h"
 #include "common/YieldToHost.h"
 #include "controller/System.h"
-#include "metadata/MetadataStore.h"
 #include "tests/support/HandView.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Worksheet.h"

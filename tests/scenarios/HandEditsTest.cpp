@@ -1,7 +1,6 @@
 #include <functional>
 #include <vector>
 
-#include "common/RunVariables.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Worksheet.h"

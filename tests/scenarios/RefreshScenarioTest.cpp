@@ -2,7 +2,6 @@
 #include <vector>
 
 #include "controller/CPlotsmithController.h"
-#include "host/excel/Excel.h"
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"

@@ -3,14 +3,11 @@
 #include <filesystem>
 #include <vector>
 
-#include "common/RunVariables.h"
-#include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
 #include "tests/support/RunCommand.h"
 #include "tests/support/SchemaFaults.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/package/PackageError.h"
 
 namespace plotsmith {
 namespace {

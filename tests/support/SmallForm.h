@@ -1,8 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 

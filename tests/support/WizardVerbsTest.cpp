@@ -1,7 +1,5 @@
 #include "tests/support/WizardVerbsTest.h"
 
-#include <fstream>
-#include <iterator>
 
 namespace plotsmith::test {
 

@@ -1,7 +1,6 @@
 #include "tests/qt/support/Robot.h"
 
 #include <QtTest/QtTest>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 

@@ -3,7 +3,6 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <cstdlib>
 #include <filesystem>

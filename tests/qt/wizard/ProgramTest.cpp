@@ -1,7 +1,6 @@
 #include "tests/qt/wizard/ProgramTest.h"
 
 #include <filesystem>
-#include <iterator>
 #include <sstream>
 
 #include "qt/wizard/WizardProgram.h"

@@ -2,7 +2,6 @@
 #include <QtGui/QWindow>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
 
 #include "runtime/Strings.h"
