@@ -177,25 +177,6 @@ TEST_F(CheckTest, InvisibleCharts) {
       Found(book),
       List{"No chart has the alternative text 'VEX_Chart1'; there are no charts; the chart was drawn and "
            "no longer exists, so the next refresh removes its definition."});
-
-  book = SalesBook({{"VEX_Chart1"}});
-  const S path = folder_ / "grouped.xlsx";
-  book.Write(path);
-  test::EditPart(path, "/xl/drawings/drawing2.xml", [](S& drawing) {
-    drawing =
-        runtime::Replace(drawing, "<xdr:graphicFrame macro",
-                         "<xdr:grpSp><xdr:nvGrpSpPr><xdr:cNvPr id=\"9\" name=\"Group 9\"/><xdr:cNvGrpSpPr/>"
-                         "</xdr:nvGrpSpPr><xdr:grpSpPr/><xdr:graphicFrame macro");
-    drawing = runtime::Replace(drawing, "</xdr:graphicFrame>", "</xdr:graphicFrame></xdr:grpSp>");
-  });
-  EXPECT_NE(
-      RunCommand({"check", path})
-          .out.find(
-              "A2: The chart with the alternative text 'VEX_Chart1' is in a group of shapes on the sheet "
-              "'Charts', where it isn't found; ungroup it" +
-              refused + "\n"),
-      S::npos)
-      << RunCommand({"check", path}).out;
 }
 
 TEST_F(CheckTest, InvalidNamesAndValuesInDefinitions) {

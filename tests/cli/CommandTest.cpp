@@ -42,20 +42,6 @@ TEST_F(CommandTest, RefreshPrintsNothingWithoutProblems) {
   EXPECT_NE(test::BytesOf(book), before);
 }
 
-TEST_F(CommandTest, MessagesReachStderrWordForWord) {
-  test::Definition broken{"VEX_Chart1", "column", "table-id=\"Gone\""};
-  const S book = Write(SalesBook({broken}));
-  const CommandResult result = RunCommand({"refresh", book});
-  EXPECT_EQ(result.code, 1);
-  EXPECT_EQ(
-      result.err,
-      "Brindle Plotsmith: Chart 'Name of VEX_Chart1' has become unavailable because its source table no "
-      "longer exists in this workbook.\nplotsmith: VEX_ChartDefinitions!A2 (chart 'Name of VEX_Chart1'): "
-      "There is no table 'Gone'; there is Data1; a sheet is a table only if its name is exactly one of Data1 "
-      "to Data5.\n");
-  EXPECT_NE(RunCommand({"charts", book}).out.find("table no longer fits"), S::npos);
-}
-
 TEST_F(CommandTest, UnreadableFilesAreReportedAndNothingIsWritten) {
   const auto file = [&](const S& name, const S& bytes) {
     std::ofstream(folder_ / name, std::ios::binary) << bytes;
@@ -346,25 +332,6 @@ TEST_F(CommandTest, AStateHasItsReason) {
   }
 }
 
-TEST_F(CommandTest, ARunWithoutChartsIsReported) {
-  const S none = Write(SalesBook({}), "none.xlsx"), one = Write(SalesBook({{"VEX_Chart1"}}), "one.xlsx");
-  test::PlainBook other = SalesBook({{"VEX_Chart1"}});
-  other.sheets.push_back(test::SalesSheet("Data2"));
-  const S two = Write(other, "two.xlsx");
-  CommandResult result = RunCommand({"refresh", none, "-o", folder_ / "out.xlsx"});
-  EXPECT_EQ(result.code, 1);
-  EXPECT_EQ(result.err,
-            "plotsmith: \"" + none + "\" has no charts of Plotsmith, so nothing was refreshed.\n");
-  EXPECT_TRUE(std::filesystem::exists(folder_ / "out.xlsx"));
-  result = RunCommand({"refresh", two, "--table", "Data2"});
-  EXPECT_EQ(result.code, 1);
-  EXPECT_EQ(result.err,
-            "plotsmith: no chart of \"" + two + "\" uses the table \"Data2\", so nothing was refreshed.\n");
-  result = RunCommand({"refresh", one, "--verbose"});
-  EXPECT_EQ(result.code, 0);
-  EXPECT_EQ(result.err, "1 chart refreshed\n");
-}
-
 TEST_F(CommandTest, DatesHaveAnIsoTextAndANumber) {
   test::PlainBook plain = SalesBook({});
   plain.styles =
@@ -432,15 +399,6 @@ TEST_F(CommandTest, JournalVersionAndProgress) {
   EXPECT_EQ(watched.code, 0);
   EXPECT_EQ(VersionText(16), "16.0");
   EXPECT_EQ(VersionText(11.5), "11.5");
-}
-
-TEST_F(CommandTest, OneTableOnly) {
-  test::Definition other{"VEX_Chart2", "column", "table-id=\"Data2\""};
-  test::PlainBook plain = SalesBook({{"VEX_Chart1"}, other});
-  plain.sheets.push_back(test::SalesSheet("Data2"));
-  const S book = Write(plain);
-  EXPECT_EQ(RunCommand({"refresh", book, "--table", "Data2"}).code, 0);
-  EXPECT_EQ(RunCommand({"cells", book, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
 }
 
 TEST_F(CommandTest, ChartsFollowRenamedColumns) {

@@ -15,46 +15,6 @@ using S = std::string;
 
 class WizardCommandTest : public test::WizardVerbsTest {};
 
-TEST_F(WizardCommandTest, ARunThatBuildsAChartIsSaved) {
-  const S book = Write(test::PlainSales());
-  const CommandResult result = Wizard(book, R"(
-# the first chart of a workbook
-page frmPSSelectTable
-select grdTables Data1
-choose optType(1)
-press cmdNext
-page frmPSLayoutABC
-type txtTitle "Sales by region"
-choose optSeries(1)
-choose cboSeries Product
-press cmdFinish
-page none
-)");
-  EXPECT_EQ(result.code, 0);
-  EXPECT_EQ(result.out + result.err, "");
-  EXPECT_EQ(
-      Charts(book),
-      "VEX_Chart1  \"Sales by region\"\n  column chart on sheet Data1, from table Data1 on sheet Data1\n  "
-      "ok\n");
-  EXPECT_EQ(RunCommand({"cells", book, "VEX_ChartData!A1:D3"}).out,
-            "VEX_Chart1\t\tWidget\tGadget\nVEX_Chart1\tEast\t11\t7\nVEX_Chart1\tWest\t5\t\n");
-}
-
-TEST_F(WizardCommandTest, ARunThatDeletesAChartIsSaved) {
-  const S book = Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}}));
-  const CommandResult result = Wizard(book, R"(
-select grdCharts "Name of VEX_Chart1"
-answer ok
-press cmdDelete
-expect question "Are you sure you want to delete this chart?\n\nClick 'OK' to delete or 'Cancel' to abort."
-page frmPSSelectAction
-expect grdCharts.Rows 2
-)");
-  EXPECT_EQ(result.code, 0) << result.err;
-  EXPECT_EQ(Charts(book).find("VEX_Chart1"), S::npos);
-  EXPECT_NE(Charts(book).find("VEX_Chart2"), S::npos);
-}
-
 TEST_F(WizardCommandTest, NothingElseIsSaved) {
   const struct {
     const char* name;

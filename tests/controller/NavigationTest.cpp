@@ -45,7 +45,6 @@ class NavigationTest : public test::HostTest {
 };
 
 const S kAction = "show frmPSSelectAction; close frmPSSelectAction; ";
-const S kTable = "show frmPSSelectTable; close frmPSSelectTable; ";
 const S kAbc = "show frmPSLayoutABC; close frmPSLayoutABC; ";
 const S kLocation = "show frmPSChartLocation; close frmPSChartLocation; ";
 
@@ -120,20 +119,12 @@ TEST_F(NavigationTest, MessagesAndErrors) {
   EXPECT_FALSE(bRunAborted);
 }
 
-TEST_F(NavigationTest, OpeningWithoutChartsOrTables) {
+TEST_F(NavigationTest, ARunWithoutTablesOpensNoPageAndEnds) {
   PlainBook bare;
   bare.sheets = {test::SalesSheet("Sheet1")};
   Open(bare);
   EXPECT_EQ(Run({}), "");
-  EXPECT_EQ(Messages(),
-            std::vector<S>{
-                "Brindle Plotsmith: This workbook contains no tables. You must create one in order to run "
-                "the Plotsmith."});
   EXPECT_FALSE(colTables);
-  bare.sheets = {test::SalesSheet("Data1")};
-  Open(bare);
-  EXPECT_EQ(Run({}), kTable);
-  EXPECT_EQ(lMethodType, 0);
 }
 
 class EntryTest : public test::HostTest {};
