@@ -9,8 +9,7 @@
 #include "cli/batch/Workers.h"
 #include "runtime/Strings.h"
 #include "tests/support/Files.h"
-#include "tests/support/HostTest.h"
-#include "tests/support/RunCommand.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -20,25 +19,19 @@ using namespace test;
 using S = std::string;
 
 /// Tests refreshing several workbooks. The output names them without their folder.
-class BatchTest : public ::testing::Test {
+class BatchTest : public test::VerbsTest {
  protected:
-  S Write(const S& name, const test::PlainBook& book) {
-    fs::create_directories(fs::path(folder_ / name).parent_path());
-    book.Write(folder_ / name);
-    return folder_ / name;
-  }
-  S Write(const S& name) { return Write(name, SalesBook({{"VEX_Chart1"}})); }
+  using test::VerbsTest::Write;
+  S Write(const S& name) { return Write(SalesBook({{"VEX_Chart1"}}), name); }
   /// Writes a workbook with a chart that can be drawn and one whose table doesn't exist.
   S WriteHalf(const S& name) {
     auto book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Gone\""}});
     book.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
-    return Write(name, book);
+    return Write(book, name);
   }
   /// Returns true if the chart of a workbook is drawn.
-  static bool IsDrawn(const S& path) { return RunCommand({"charts", path}).out.ends_with("\n  ok\n"); }
+  static bool IsDrawn(const S& path) { return Charts(path).ends_with("\n  ok\n"); }
   S Plain(const S& text) const { return runtime::Replace(text, folder_.Path().string() + "/", ""); }
-
-  test::TempFolder folder_;
 };
 
 TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
@@ -78,7 +71,7 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
 TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
   auto two = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Data2\""}});
   two.sheets.push_back(test::SalesSheet("Data2"));
-  const S both = Write("both.xlsx", two), one = Write("one.xlsx");
+  const S both = Write(two, "both.xlsx"), one = Write("one.xlsx");
   const CommandResult table = RunCommand({"refresh", both, one, "--table", "Data2", "--journal"});
   EXPECT_EQ(table.code, 2) << "the second workbook has no such table";
   EXPECT_EQ(
@@ -96,6 +89,8 @@ TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
 }
 
 TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
+  fs::create_directory(folder_ / "one");
+  fs::create_directory(folder_ / "two");
   const S first = Write("one/a.xlsx"), second = Write("two/b.xlsx"), twin = Write("two/a.xlsx"),
           out = folder_ / "out";
   const S before = test::BytesOf(first);
@@ -122,9 +117,8 @@ TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
       {{second, first, "-o", folder_ / "one"},
        "\"one/a.xlsx\" is in the folder \"one\" itself; without -o it is refreshed in place."},
       {{first, second, "--jobs", "0"}, "--jobs needs a number of at least 1."}};
-  for (auto [arguments, said] : cases) {
-    arguments.insert(arguments.begin(), "refresh");
-    const CommandResult result = RunCommand(arguments);
+  for (const auto& [arguments, said] : cases) {
+    const CommandResult result = RunCommand(Joined({"refresh"}, arguments));
     EXPECT_EQ(result.code, 2);
     EXPECT_EQ(Plain(result.err), "plotsmith: " + said + "\n");
   }

@@ -4,7 +4,7 @@
 
 #include "tests/support/Files.h"
 #include "tests/support/Patterns.h"
-#include "tests/support/WizardVerbsTest.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -13,7 +13,7 @@ using namespace test;
 using S = std::string;
 
 /// Verbs on a workbook with two charts, one of which has a table without a label column.
-class ChartVerbsTest : public test::WizardVerbsTest {
+class ChartVerbsTest : public test::VerbsTest {
  protected:
   ChartVerbsTest() {
     test::Definition first{"VEX_Chart1"}, second{"VEX_Chart2", "pie", "table-id=\"Data2\" title=\"\""};
@@ -30,9 +30,8 @@ class ChartVerbsTest : public test::WizardVerbsTest {
   /// Runs a verb on the workbook with another output file.
   CommandResult Verb(std::vector<S> arguments) {
     arguments.insert(arguments.begin() + 1, book_);
-    arguments.insert(arguments.end(), {"-o", out_});
     std::filesystem::remove(out_);
-    return RunCommand(arguments);
+    return RunCommand(Joined(arguments, {"-o", out_}));
   }
 
   S book_;
@@ -119,11 +118,9 @@ TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
 
 TEST_F(ChartVerbsTest, ModifyChangesOnlyTheGivenSettings) {
   const auto definition = [&](const std::vector<S>& options) {
-    std::vector<S> arguments = {"modify", "NAME of vex_chart1"};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    const CommandResult result = Verb(arguments);
+    const CommandResult result = Verb(Joined({"modify", "NAME of vex_chart1"}, options));
     EXPECT_EQ(result.code, 0) << result.err;
-    return test::ReplaceMatches(Definition(out_, "VEX_Chart1"),
+    return test::ReplaceMatches(StoredDefinition(out_, "VEX_Chart1"),
                                 " worksheet-column-number=\"[0-9]\"|<auto-persistence>.*</auto-persistence>",
                                 "");
   };
@@ -161,7 +158,7 @@ TEST_F(ChartVerbsTest, ModifyChangesOnlyTheGivenSettings) {
 TEST_F(ChartVerbsTest, AChartWithAnUnsuitableTableGetsAnotherOne) {
   const CommandResult result = Verb({"modify", "VEX_Chart2", "--table", "Data1", "--values", "Cost"});
   EXPECT_EQ(result.code, 0) << result.err;
-  const S definition = Definition(out_, "VEX_Chart2");
+  const S definition = StoredDefinition(out_, "VEX_Chart2");
   EXPECT_NE(definition.find("table-id=\"Data1\""), S::npos) << definition;
   EXPECT_NE(definition.find("<values><column name=\"Cost\"/></values>"), S::npos) << definition;
   const S script =
@@ -199,11 +196,10 @@ TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
   };
   for (const auto& item : cases) {
     book_ = item.book;
-    std::vector<S> arguments = {"modify", "VEX_Chart1"};
-    arguments.insert(arguments.end(), item.options.begin(), item.options.end());
-    const CommandResult result = Verb(arguments);
+    const CommandResult result = Verb(Joined({"modify", "VEX_Chart1"}, item.options));
     EXPECT_EQ(result.code, 0) << result.err;
-    EXPECT_NE(Definition(out_, "VEX_Chart1").find(item.piece), S::npos) << Definition(out_, "VEX_Chart1");
+    EXPECT_NE(StoredDefinition(out_, "VEX_Chart1").find(item.piece), S::npos)
+        << StoredDefinition(out_, "VEX_Chart1");
   }
   EXPECT_EQ(
       Verb({"modify", "VEX_Chart1", "--category-columns", "Amount"}).err,
@@ -244,9 +240,7 @@ TEST_F(ChartVerbsTest, CopiesAreMadeOnTheGivenSheet) {
        "VEX_Chart3  \"Copy of Name of VEX_Chart1\"\n  area chart on sheet Mine,"},
   };
   for (const auto& [options, line] : cases) {
-    std::vector<S> arguments = {"copy", "VEX_Chart1"};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    const CommandResult result = Verb(arguments);
+    const CommandResult result = Verb(Joined({"copy", "VEX_Chart1"}, options));
     EXPECT_EQ(result.code, 0) << result.err;
     EXPECT_NE(Charts(out_).find(line), S::npos) << Charts(out_);
     EXPECT_NE(Charts(out_).find("VEX_Chart1  \"Name of VEX_Chart1\"\n  column chart on sheet Charts,"),
@@ -294,8 +288,7 @@ TEST_F(ChartVerbsTest, MessagesOfTheBuildAreReported) {
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.err, "Brindle Plotsmith: " + said + "\n");
   EXPECT_NE(Charts(out_).find("  ok\n"), S::npos);
-  const CommandResult printed = RunCommand(
-      {"new", book_, "--table", "Data1", "--type", "column", "--series", "Product", "--print-script"});
+  const CommandResult printed = Verb(Joined(arguments, {"--print-script"}));
   EXPECT_EQ(printed.code, 1);
   EXPECT_TRUE(printed.out.ends_with(
       "press cmdFinish\nexpect message \"This chart type is limited to 254 series.\\nSome "

@@ -7,8 +7,7 @@
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/Files.h"
-#include "tests/support/HostTest.h"
-#include "tests/support/RunCommand.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -19,20 +18,18 @@ using List = std::vector<S>;
 
 const S kFormula = "><f>1+1</f><v></v></c>";
 
+const S kRefused = "; until this is corrected, the workbook is only written with --drop-broken.";
+
 const S kStray =
     "A chart here has the alternative text 'VEX_Chart1', but no definition has this id; a new chart could "
     "get the same id. Delete the chart, or clear its alternative text";
 
 /// Tests the findings of `check`: the indented lines, without the place of the first definition.
-class CheckTest : public ::testing::Test {
+class CheckTest : public test::VerbsTest {
  protected:
   test::CommandResult Check(const PlainBook& book, const List& options = {}) {
-    const S path = folder_ / "book.xlsx";
-    book.Write(path);
-    const S before = test::BytesOf(path);
-    List arguments = {"check", path};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    auto result = RunCommand(arguments);
+    const S path = Write(book), before = test::BytesOf(path);
+    auto result = RunCommand(Joined({"check", path}, options));
     EXPECT_EQ(test::BytesOf(path), before);
     EXPECT_EQ(result.err, "");
     return result;
@@ -51,8 +48,6 @@ class CheckTest : public ::testing::Test {
   }
   /// Returns the findings about one definition for the sales table.
   List Found(const Definition& definition) { return Found(SalesBook({definition})); }
-
-  test::TempFolder folder_;
 };
 
 TEST(CheckWordsTest, ListsAndQuotations) {
@@ -85,8 +80,7 @@ TEST_F(CheckTest, TheSystemsOwnDefinitionsHaveNoProblems) {
                              test::BubbleBook({{"a", "b", 1, 2, 3}}, test::BubbleDefinition()),
                              test::BucketBook(test::BucketDefinition())};
   for (const PlainBook& book : books) {
-    const S path = folder_ / "book.xlsx";
-    book.Write(path);
+    const S path = Write(book);
     ASSERT_EQ(RunCommand({"refresh", path}).code, 0);
     EXPECT_EQ(RunCommand({"check", path}).code, 0) << RunCommand({"check", path}).out;
     test::EditPart(path, "/xl/drawings/drawing2.xml",
@@ -111,8 +105,7 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
             "with a title in its first cell and headings in its third row.\n");
   EXPECT_EQ(RunCommand({"check", folder_ / "none.xlsx"}).code, 3);
   book.sheets.push_back({"VEX_ChartDefinitions", {{RawCell{" t='x><v>1</v></c>"}}}});
-  book.Write(folder_ / "damaged.xlsx");
-  const auto damaged = RunCommand({"check", folder_ / "damaged.xlsx"});
+  const auto damaged = RunCommand({"check", Write(book, "damaged.xlsx")});
   EXPECT_EQ(damaged.code, 3);
   EXPECT_EQ(damaged.out, "");
   EXPECT_TRUE(damaged.err.ends_with("sheet2.xml can't be read: its XML is damaged.\n")) << damaged.err;
@@ -120,19 +113,19 @@ TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
 
 TEST_F(CheckTest, RowsThatAreRemovedOrNotRead) {
   const S good = Definition{"VEX_Chart1"}.Xml();
-  const S refused = "; until this is corrected, the workbook is only written with --drop-broken.";
   const S confused =
       "; until this is corrected, charts are only made, changed or deleted with --drop-broken.";
   const std::pair<List, List> cases[] = {
       {{"<chart id='VEX_Chart1'>\n<a></chart>"},
-       {"The text is not well-formed XML (mismatched tag in line 2, character 6)" + refused}},
-      {{"Sales"}, {"The text is not well-formed XML (syntax error in line 1, character 1)" + refused}},
-      {{"<charts/>"}, {"The root element is 'charts' and not 'chart'" + refused}},
-      {{runtime::Replace(good, "id=\"VEX_Chart1\"", "")}, {"The definition has no 'id'" + refused}},
+       {"The text is not well-formed XML (mismatched tag in line 2, character 6)" + kRefused}},
+      {{"Sales"}, {"The text is not well-formed XML (syntax error in line 1, character 1)" + kRefused}},
+      {{"<charts/>"}, {"The root element is 'charts' and not 'chart'" + kRefused}},
+      {{runtime::Replace(good, "id=\"VEX_Chart1\"", "")}, {"The definition has no 'id'" + kRefused}},
       {{runtime::Replace(good, "id=\"VEX_Chart1\"", "id=\"VEX_Chart7\"")},
-       {"No chart has the alternative text 'VEX_Chart7'; there is a chart with 'VEX_Chart1'" + refused}},
+       {"No chart has the alternative text 'VEX_Chart7'; there is a chart with 'VEX_Chart1'" + kRefused}},
       {{good, good},
-       {"VEX_ChartDefinitions!A3: The id 'VEX_Chart1' is already used by VEX_ChartDefinitions!A2" + refused}},
+       {"VEX_ChartDefinitions!A3: The id 'VEX_Chart1' is already used by VEX_ChartDefinitions!A2" +
+        kRefused}},
       {{"", good},
        {"VEX_ChartDefinitions!A3: This definition is never read, because VEX_ChartDefinitions!A2 is blank "
         "and ends the list" +
@@ -157,21 +150,20 @@ TEST_F(CheckTest, RowsThatAreRemovedOrNotRead) {
 }
 
 TEST_F(CheckTest, InvisibleCharts) {
-  const S refused = "; until this is corrected, the workbook is only written with --drop-broken.";
   PlainBook book = SalesBook({{"VEX_Chart1"}});
   book.Sheet("Charts").frames[0].alternativeText = "";
   EXPECT_EQ(Found(book),
-            List{"No chart has the alternative text 'VEX_Chart1'; there is 1 chart without any" + refused});
+            List{"No chart has the alternative text 'VEX_Chart1'; there is 1 chart without any" + kRefused});
   book.Sheet("Charts").frames.push_back({"Other"});
   book.Sheet("Charts").frames.push_back({"Third"});
   EXPECT_EQ(
       Found(book),
       List{"No chart has the alternative text 'VEX_Chart1'; there are charts with 'Other' and 'Third' and "
            "1 chart without any" +
-           refused});
+           kRefused});
   book.Sheet("Charts").frames.clear();
   EXPECT_EQ(Found(book),
-            List{"No chart has the alternative text 'VEX_Chart1'; there are no charts" + refused});
+            List{"No chart has the alternative text 'VEX_Chart1'; there are no charts" + kRefused});
   book.sheets.push_back({"VEX_ChartData", {{S("VEX_Chart1")}}, 3});
   EXPECT_EQ(
       Found(book),

@@ -44,8 +44,7 @@ class RenderTest : public ::testing::Test {
   void SetUp() override {
     test::PlainBook book = test::SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
     book.Sheet("Charts").frames.push_back({"", kForeignChart, 0, 40});
-    test::PlainSheet rows;
-    rows.name = "Many rows";
+    test::PlainSheet rows{"Many rows"};
     for (int i = 1; i <= 100; ++i) rows.rows.push_back({S("Row " + std::to_string(i)), double(i)});
     book.sheets.push_back(rows);
     book.sheets.push_back({.name = "Empty"});
@@ -135,9 +134,7 @@ TEST_F(RenderTest, PicturesGoWhereTheOutputSays) {
       {{"BOOK", "--sheet", "Many rows", "--one-page", "-o", "DIR/rows.png"}, "rows.png png", ""},
   };
   for (const auto& c : cases) {
-    std::vector<S> arguments = c.arguments;
-    arguments.insert(arguments.begin(), "render");
-    const CommandResult result = Run(arguments);
+    const CommandResult result = Run(Joined({"render"}, c.arguments));
     EXPECT_EQ(result.code, 0) << result.err;
     EXPECT_EQ(result.err, "");
     EXPECT_EQ(Files(), c.files);
@@ -229,9 +226,7 @@ TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
       {{"BOOK.no", "-o", "DIR"}, 3, "can't read \"BOOK.no\": there is no such file.\n"},
   };
   for (const auto& c : cases) {
-    std::vector<S> arguments = c.arguments;
-    arguments.insert(arguments.begin(), "render");
-    const CommandResult result = Run(arguments);
+    const CommandResult result = Run(Joined({"render"}, c.arguments));
     EXPECT_EQ(result.code, c.code);
     EXPECT_EQ(result.err, "plotsmith: " + c.sentence);
     EXPECT_EQ(result.out, "");
@@ -256,9 +251,7 @@ TEST_F(RenderTest, TheSameBytesComeOutOfEveryRunToFilesAndToTheStandardOutput) {
 
 TEST_F(RenderTest, SizesFollowScaleAndResolution) {
   const auto png = [&](const std::vector<S>& options) {
-    std::vector<S> arguments = {"render", "BOOK", "VEX_Chart1", "--format", "png", "-o", "-"};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    const S bytes = Run(arguments).out;
+    const S bytes = Run(Joined({"render", "BOOK", "VEX_Chart1", "--format", "png", "-o", "-"}, options)).out;
     const auto number = [&](std::size_t at) {
       int value = 0;
       for (std::size_t i = at; i < at + 4; ++i) value = value * 256 + static_cast<unsigned char>(bytes.at(i));
@@ -309,8 +302,7 @@ TEST_F(RenderTest, AnExistingPictureIsReplacedAsAWhole) {
 
 TEST_F(RenderTest, OnlyDefinitionsWithAChartOfTheirOwnAreDrawn) {
   test::PlainBook book;
-  test::PlainSheet charts;
-  charts.name = "Charts";
+  test::PlainSheet charts{"Charts"};
   for (const S id : {"First", "Second", "FIRST", "Third"})
     charts.frames.push_back({id, kForeignChart, 0, 20 * static_cast<int>(charts.frames.size())});
   book.sheets.push_back(charts);
@@ -372,9 +364,7 @@ TEST_F(RenderTest, ARefreshDrawsWhatItHasRefreshed) {
        "plotsmith: --format must be svg, png or pdf, not 'gif'.\n"},
   };
   for (const auto& c : cases) {
-    std::vector<S> arguments = {"refresh", "BOOK", "-o", folder_ / "out.xlsx"};
-    arguments.insert(arguments.end(), c.options.begin(), c.options.end());
-    const CommandResult result = Run(arguments);
+    const CommandResult result = Run(Joined({"refresh", "BOOK", "-o", folder_ / "out.xlsx"}, c.options));
     EXPECT_EQ(result.code, c.code);
     EXPECT_EQ(result.err, c.err);
     EXPECT_EQ(Files(), c.files);

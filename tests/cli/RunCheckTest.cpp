@@ -5,8 +5,7 @@
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/Files.h"
-#include "tests/support/HostTest.h"
-#include "tests/support/RunCommand.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -20,28 +19,21 @@ const S kDrawingPart = "/xl/drawings/drawing2.xml";
 const S kChartPart = "/xl/charts/chart1.xml";
 
 /// Tests the messages on stderr with which writing commands report what happens to a person's work.
-class RunCheckTest : public ::testing::Test {
+class RunCheckTest : public test::VerbsTest {
  protected:
-  S Write(const PlainBook& book) {
-    book.Write(path_);
-    return path_;
-  }
   /// Writes a workbook with these texts in the rows of the definitions, and with a chart for VEX_Chart1.
-  S WriteRows(const List& rows) {
+  void WriteRows(const List& rows) {
     PlainBook book = SalesBook({{"VEX_Chart1"}});
     book.sheets.pop_back();
     book.AddDefinitions(rows);
-    return Write(book);
+    Write(book);
   }
   /// Runs a refresh and checks that its exit code fits to its messages.
   S Refresh(const List& options = {}) {
-    List arguments = {"refresh", path_};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    const CommandResult result = RunCommand(arguments);
+    const CommandResult result = RunCommand(Joined({"refresh", path_}, options));
     EXPECT_EQ(result.code, result.err.empty() ? 0 : 1) << result.err;
     return result.err;
   }
-  S Charts() { return RunCommand({"charts", path_}).out; }
   void Edit(const S& part, const S& from, const S& to) {
     EditPart(path_, part, [&](S& text) {
       ASSERT_NE(text.find(from), S::npos) << from;
@@ -53,8 +45,7 @@ class RunCheckTest : public ::testing::Test {
     return "plotsmith: \"" + path_ + "\" has no charts of Plotsmith, so nothing was refreshed.\n";
   }
 
-  test::TempFolder folder_;
-  S path_ = folder_ / "book.xlsx";
+  const S path_ = folder_ / "book.xlsx";
 };
 
 const S kStray =
@@ -104,7 +95,7 @@ TEST_F(RunCheckTest, NothingIsWrittenIfADefinitionWouldBeLost) {
     const S noCharts = row.charts == 0 ? kStray + NothingToRefresh() : "";
     EXPECT_EQ(Refresh({"--drop-broken"}), line + "; the row was dropped.\n" + noCharts);
     EXPECT_EQ(RunCommand({"check", path_}).code, 1 - row.charts) << RunCommand({"check", path_}).out;
-    EXPECT_EQ(Charts().find("VEX_Chart1") != S::npos, row.charts == 1) << Charts();
+    EXPECT_EQ(Charts(path_).find("VEX_Chart1") != S::npos, row.charts == 1) << Charts(path_);
     EXPECT_EQ(Refresh(), noCharts);
   }
 }
@@ -117,7 +108,7 @@ TEST_F(RunCheckTest, AMissingDrawnChartLosesItsDefinition) {
       Refresh(),
       Line("No chart has the alternative text 'VEX_Chart1'; there are charts with 'Mine' and 'VEX_Chart2'; "
            "the chart was drawn and no longer exists, so its definition was removed."));
-  EXPECT_TRUE(Charts().starts_with("VEX_Chart2")) << Charts();
+  EXPECT_TRUE(Charts(path_).starts_with("VEX_Chart2")) << Charts(path_);
   EXPECT_EQ(Refresh(), "");
 }
 
@@ -268,7 +259,7 @@ TEST_F(RunCheckTest, CellsThatMakeAWrongPictureAreReported) {
             Line(start + "the text '5 pcs', which counts as 0.", "Data1!C3"));
   const S said = start + "the error #N/A, which counts as 0.";
   EXPECT_EQ(refresh([&](Rows& rows) { rows[4][2] = error; }), Line(said, "Data1!C5"));
-  EXPECT_NE(Charts().find("  ok\n    Data1!C5: " + said + "\n"), S::npos) << Charts();
+  EXPECT_NE(Charts(path_).find("  ok\n    Data1!C5: " + said + "\n"), S::npos) << Charts(path_);
   Definition forgotten;
   forgotten.values = "";
   EXPECT_EQ(refresh([](Rows&) {}, forgotten),
@@ -399,7 +390,7 @@ TEST_F(RunCheckTest, TooManyBucketsAreReported) {
   const CommandResult mended = RunCommand({"modify", path_, "VEX_Chart1", "--type", "strategic bucket"});
   EXPECT_EQ(mended.code, 0) << mended.err;
   EXPECT_EQ(Refresh(), "");
-  EXPECT_NE(Charts().find("strategic bucket chart"), S::npos) << Charts();
+  EXPECT_NE(Charts(path_).find("strategic bucket chart"), S::npos) << Charts(path_);
 }
 
 TEST_F(RunCheckTest, AmbiguousChartsPreventNewAndDeletedCharts) {

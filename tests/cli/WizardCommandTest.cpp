@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "tests/support/Files.h"
-#include "tests/support/WizardVerbsTest.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -13,7 +13,7 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class WizardCommandTest : public test::WizardVerbsTest {};
+class WizardCommandTest : public test::VerbsTest {};
 
 TEST_F(WizardCommandTest, NothingElseIsSaved) {
   const struct {
