@@ -34,8 +34,7 @@ class TableDefinitionsTest : public test::HostTest {
 
 /// Returns a sheet with title, blank row, headings and two data rows, beginning at B3.
 PlainSheet RangeSheet(const std::string& name) {
-  PlainSheet sheet;
-  sheet.name = name;
+  PlainSheet sheet{name};
   sheet.top = 3;
   sheet.left = 2;
   sheet.rows = {{S("Investments")},
