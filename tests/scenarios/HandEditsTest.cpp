@@ -41,8 +41,7 @@ class HandEditsTest : public test::HostTest {
     Definition definition{"VEX_Chart1", "column", "table-id=\"Data1\" title=\"Sales\" number-format=\"0\""};
     definition.rest = rest;
     Open(SalesBook({definition}));
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
   }
   S StoredDefinition() { return Cells("VEX_ChartDefinitions", 2, 1, 2, 1); }
 
@@ -181,10 +180,7 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
         "<axes><axis type=\"value\" label=\"Money\" sticky=\"no\"/></axes><data-labels><data-label "
         "show=\"values\"/></data-labels>");
     EditChart(hand.edit);
-    for (int i = 0; i < 2; ++i) {
-      Refresh();
-      SaveAndReopen();
-    }
+    for (int i = 0; i < 2; ++i) RefreshAndReopen();
     const S chart = SavedPart(kChart), definition = StoredDefinition();
     for (const S& wanted : hand.chart)
       EXPECT_NE(chart.find(wanted), S::npos) << wanted << "\n  isn't in\n" << chart;
@@ -197,8 +193,7 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
 
 TEST_F(HandEditsTest, TheMarksOfBucketsKeepTheFontOfTheirLabels) {
   Open(test::BucketBook(test::BucketDefinition()));
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   const S labels = "<c:dLbls>", georgia = "<a:latin typeface=\"Georgia\"/>";
   EditChart([&](S& xml) {
     const auto marks = xml.rfind(labels);
@@ -209,8 +204,7 @@ TEST_F(HandEditsTest, TheMarksOfBucketsKeepTheFontOfTheirLabels) {
     xml = xml.substr(0, marks) + formatted;
   });
   for (int i = 0; i < 2; ++i) {
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
     const S chart = SavedPart(kChart), marks = chart.substr(chart.rfind(labels));
     EXPECT_NE(marks.find("sz=\"1400\""), S::npos) << marks;
     EXPECT_NE(marks.find(kRed), S::npos) << marks;
@@ -235,8 +229,7 @@ TEST_F(HandEditsTest, ThreeDimensionsKeepTheirView) {
     ReplaceSpan(xml, "<c:floor>", "<c:sideWall>",
                 "<c:floor><c:thickness val=\"5\"/><c:spPr>" + kRed + "</c:spPr></c:floor>");
   });
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_NE(SavedPart(kChart).find(
                 "<c:view3D><c:rotX val=\"40\"/><c:rotY val=\"120\"/><c:rAngAx val=\"0\"/><c:perspective "
                 "val=\"60\"/></c:view3D><c:floor><c:thickness val=\"5\"/><c:spPr>" +
@@ -251,8 +244,7 @@ TEST_F(HandEditsTest, AChartIsFoundOnTheSheetToWhichItWasMoved) {
   other.frames = {{"not ours", ""}};
   book.sheets.insert(book.sheets.begin() + 2, other);
   Open(book);
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   Edit([](xlsx::Package& package) {
     for (const S part : {"/xl/drawings/drawing2.xml", "/xl/drawings/_rels/drawing2.xml.rels"}) {
       S second = part;
@@ -262,8 +254,7 @@ TEST_F(HandEditsTest, AChartIsFoundOnTheSheetToWhichItWasMoved) {
       package.Replace(second, bytes);
     }
   });
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_NE(StoredDefinition().find("chart-worksheet=\"Other\""), S::npos) << StoredDefinition();
   EXPECT_NE(SavedPart(kChart).find("VEX_ChartData!"), S::npos);
   EXPECT_TRUE(Messages().empty());
@@ -279,8 +270,7 @@ TEST_F(HandEditsTest, ChartsWithoutMarkersAreIdentifiedByTheirData) {
   box->SetAlternativeText("VEX_Chart2");
   box->TextFrame()->Characters()->SetText("Said of\nthe bars");
   SaveAndReopen();
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   Edit([](xlsx::Package& package) {
     S xml = package.Read("/xl/drawings/drawing2.xml");
     for (const S marker : {"VEX_Chart1", "VEX_Chart2", "VEX_Chart2"})
@@ -288,8 +278,7 @@ TEST_F(HandEditsTest, ChartsWithoutMarkersAreIdentifiedByTheirData) {
     package.Replace("/xl/drawings/drawing2.xml", xml);
     test::SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64");
   });
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   std::vector<S> markers;
   const auto shapes = Book().FindWorksheet("Charts")->Shapes();
   for (int i = 1; i <= shapes->Count(); ++i) markers.push_back(shapes->Item(i)->AlternativeText());

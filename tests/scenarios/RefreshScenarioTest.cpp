@@ -53,16 +53,14 @@ TEST_F(RefreshScenarioTest, ReferencesFollowABlockThatGrowsAboveThem) {
   book.sheets.push_back(formulas);
   book.names = {{"SecondBlock", "VEX_ChartData!$B$5:$C$6"}, {"Elsewhere", "Data1!$A$5"}};
   Open(book);
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_NE(Chart(2).find("<c:f>VEX_ChartData!$C$5:$C$6</c:f>"), S::npos);
 
   // The table gets three more rows, and both charts are rebuilt, one after the other.
   PlainBook grown = book;
   SetRegions(grown, {"A", "B", "C", "D", "E"});
   OpenSavedWithDataOf(grown);
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_TRUE(Messages().empty());
   EXPECT_EQ(
       Cells("VEX_ChartData", 1, 1, 13, 3),
@@ -89,8 +87,7 @@ TEST_F(RefreshScenarioTest, AChartThatIsNotRebuiltKeepsItsDataWhenRowsMove) {
   book.sheets.push_back(test::SalesSheet("Data2"));
   SetRegions(book, {"A", "B"});
   Open(book);
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   const S before = Chart(2);
   ASSERT_NE(before.find("VEX_ChartData!$C$5:$C$6"), S::npos) << before;
   SetRegions(book, {"A", "B", "C", "D", "E"});
@@ -166,16 +163,14 @@ TEST_F(RefreshScenarioTest, ARefreshTwiceChangesNothingMore) {
   for (const auto& [what, book] : cases) {
     SCOPED_TRACE(what);
     Open(book);
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
     Refresh();  // This is the first refresh of a drawn chart, and it stores the look.
     SaveAndReopen();
     const auto first = xlsx::Package::Open(folder_ / "saved.xlsx");
     std::vector<std::pair<S, S>> parts;
     for (const S& part : first.Parts()) parts.emplace_back(part, first.Read(part));
     EXPECT_NE(Chart(1).find("<c:ser>"), S::npos);
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
     const auto second = xlsx::Package::Open(folder_ / "saved.xlsx");
     EXPECT_EQ(second.Parts().size(), parts.size());
     for (const auto& [part, bytes] : parts) EXPECT_TRUE(second.Read(part) == bytes) << part;

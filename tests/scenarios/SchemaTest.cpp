@@ -5,8 +5,8 @@
 
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
-#include "tests/support/RunCommand.h"
 #include "tests/support/SchemaFaults.h"
+#include "tests/support/VerbsTest.h"
 #include "xlsx/Worksheet.h"
 
 namespace plotsmith {
@@ -91,12 +91,6 @@ std::vector<Definition> AllKinds() {
           SalesDefinition("", "unknown")};
 }
 
-test::PlainSheet Targets() {
-  test::PlainSheet targets{"Targets"};
-  targets.rows = {{S("Targets")}, {}, {S("Region"), S("Amount")}, {S("East"), 100.0}, {S("West"), 50.0}};
-  return targets;
-}
-
 TEST_F(SchemaTest, TheExamplesAndTheGallery) {
   const S gallery = folder_ / "gallery.xlsx";
   const S command = S(test::kMakeGallery) + " " + folder_.Path().string() + " > /dev/null 2>&1";
@@ -119,8 +113,8 @@ TEST_F(SchemaTest, ChartsOfEveryKindFromEmptyFrames) {
   for (std::size_t i = 0; i < definitions.size(); ++i)
     definitions[i].id = "VEX_Chart" + std::to_string(i + 1);
   auto book = test::SalesBook(definitions);
-  book.sheets.push_back(Targets());
-  book.names = {{"VEX_SB1", "Targets!$A$1:$B$5"}};
+  book.sheets.push_back(test::PlainSales().Sheet("Targets"));
+  book.names = test::PlainSales().names;
   const S path = folder_ / "book.xlsx";
   book.Write(path);
   const S strict = folder_ / "strict.xlsx";
@@ -189,12 +183,11 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
       }
       if (definitions.size() == 1) break;
       add("Data1", test::SalesSheet().rows);
-      add("Targets", Targets().rows);
+      add("Targets", test::PlainSales().Sheet("Targets").rows);
       Book().DefineName("VEX_SB1", "Targets!$A$1:$B$5");
       add("VEX_ChartDefinitions", definitions);
       for (int refresh = 1; refresh <= 2; ++refresh) {
-        Refresh();
-        SaveAndReopen();
+        RefreshAndReopen();
         EXPECT_EQ(Faults(file.string(), folder_ / "saved.xlsx"), "") << "refresh " << refresh;
       }
       ++taken;
@@ -205,10 +198,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
 
 TEST_F(SchemaTest, OutputOfTheWizardsVerbs) {
   const S book = folder_ / "book.xlsx", before = folder_ / "before.xlsx";
-  test::PlainBook plain;
-  plain.sheets = {test::SalesSheet(), Targets()};
-  plain.names = {{"VEX_SB1", "Targets!$A$1:$B$5"}};
-  plain.Write(book);
+  test::PlainSales().Write(book);
   const std::vector<std::vector<S>> verbs = {
       {"new", "--table", "Data1", "--type", "column", "--series", "Product", "--comment", "a b"},
       {"new", "--table", "Data1", "--type", "bar", "--new-sheet"},
