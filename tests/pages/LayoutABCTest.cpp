@@ -6,21 +6,17 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class LayoutABCTest : public test::PagesTest {
- protected:
-  /// A step on the page, with the disabled controls and the visible pictures after it.
-  struct State {
-    S script, off;
-    S expected;  ///< Further lines.
-  };
-};
+class LayoutABCTest : public test::PagesTest {};
 
 constexpr int kBarType = 0, kColumnType = 1, kAreaType = 2;
 
 TEST_F(LayoutABCTest, StatesFollowEachClick) {
   const S stack = " chkStacked chk100Pct", fresh = "lstCategories cboSeries lstSeries" + stack;
   const S byColumns = "cboCategories cboSeries optSeries(2) lstSeries cboValues" + stack;
-  const State cases[] = {
+  const struct {
+    S script, off;  ///< A step on the page, and the disabled controls after it.
+    S expected;     ///< Further lines.
+  } cases[] = {
       {"", fresh,
        "expect cboCategories.Text Region; expect cboValues.Text Amount; expect txtHAxis.Text Region; "
        "expect txtVAxis.Text Amount; expect optSeries(0).Value yes; expect cboSeries.ListIndex -1; "
@@ -88,7 +84,7 @@ TEST_F(LayoutABCTest, TheNumberOfColumnsDeterminesTheColors) {
 
 TEST_F(LayoutABCTest, RestoredStatesAreConsistent) {
   const S columns = "<column name=\"amount\"/><column name=\"COST\"/>";
-  Definition both, hundred, oneColumn, gone;
+  Definition both, hundred, gone;
   both.categories = "<categories headings-in=\"columns\">" + columns + "</categories>";
   both.series = "<series headings-in=\"columns\">" + columns + "</series>";
   hundred.rest = test::Settings({"100%"});
