@@ -25,12 +25,12 @@ const S kStray =
     "get the same id. Delete the chart, or clear its alternative text";
 
 /// Tests the findings of `check`: the indented lines, without the place of the first definition.
-class CheckTest : public test::VerbsTest {
+class CheckTest : public VerbsTest {
  protected:
-  test::CommandResult Check(const PlainBook& book, const List& options = {}) {
-    const S path = Write(book), before = test::BytesOf(path);
+  CommandResult Check(const PlainBook& book, const List& options = {}) {
+    const S path = Write(book), before = BytesOf(path);
     auto result = RunCommand(Joined({"check", path}, options));
-    EXPECT_EQ(test::BytesOf(path), before);
+    EXPECT_EQ(BytesOf(path), before);
     EXPECT_EQ(result.err, "");
     return result;
   }
@@ -71,24 +71,24 @@ TEST_F(CheckTest, AWorkbookWithoutProblemsIsListed) {
             "table Data1: ok\nVEX_ChartDefinitions!A3  VEX_Chart2  \"Name of VEX_Chart2\"  pie chart on "
             "sheet Charts, from table Data1: ok\nData1  \"Data1\"  sheet Data1, rows 1 to 5 (4 of data), "
             "from column 1; label Region, label Product, number Amount, number Cost: ok\n");
-  EXPECT_EQ(Found(test::BubbleBook({{"a", "b", 1, 2, 3}}, test::BubbleDefinition())), List{});
-  EXPECT_EQ(Found(test::BucketBook(test::BucketDefinition())), List{});
+  EXPECT_EQ(Found(BubbleBook({{"a", "b", 1, 2, 3}}, BubbleDefinition())), List{});
+  EXPECT_EQ(Found(BucketBook(BucketDefinition())), List{});
 }
 
 TEST_F(CheckTest, TheSystemsOwnDefinitionsHaveNoProblems) {
   const PlainBook books[] = {SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}, {"VEX_Chart3", "bar"}}),
-                             test::BubbleBook({{"a", "b", 1, 2, 3}}, test::BubbleDefinition()),
-                             test::BucketBook(test::BucketDefinition())};
+                             BubbleBook({{"a", "b", 1, 2, 3}}, BubbleDefinition()),
+                             BucketBook(BucketDefinition())};
   for (const PlainBook& book : books) {
     const S path = Write(book);
     ASSERT_EQ(RunCommand({"refresh", path}).code, 0);
     EXPECT_EQ(RunCommand({"check", path}).code, 0) << RunCommand({"check", path}).out;
-    test::EditPart(path, "/xl/drawings/drawing2.xml",
-                   [](S& drawing) { drawing = runtime::Replace(drawing, "descr=", "title="); });
+    EditPart(path, "/xl/drawings/drawing2.xml",
+             [](S& drawing) { drawing = runtime::Replace(drawing, "descr=", "title="); });
     EXPECT_EQ(RunCommand({"check", path}).code, 1) << "a person has detached the charts";
     // LibreOffice drops the alternative text. A drawn chart is then identified by its data.
     auto package = xlsx::Package::Open(path);
-    test::SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64 LibreOffice_project/40$Build-2");
+    SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64 LibreOffice_project/40$Build-2");
     package.Save(path);
     EXPECT_EQ(RunCommand({"check", path}).code, 0) << RunCommand({"check", path}).out;
   }
@@ -96,7 +96,7 @@ TEST_F(CheckTest, TheSystemsOwnDefinitionsHaveNoProblems) {
 
 TEST_F(CheckTest, AWorkbookWithoutDefinitionsOrTablesIsFine) {
   PlainBook book;
-  book.sheets.push_back(test::SalesSheet("Sheet1"));
+  book.sheets.push_back(SalesSheet("Sheet1"));
   const auto result = Check(book);
   EXPECT_EQ(result.code, 0);
   EXPECT_EQ(result.out,
@@ -204,9 +204,8 @@ TEST_F(CheckTest, InvalidNamesAndValuesInDefinitions) {
         "The attribute 'sticky' has an unknown value 'maybe'; it can be yes or no."}},
       {rest("<data-labels><data-label show=\"names\"/></data-labels>"),
        {"The attribute 'show' has an unknown value 'names'; it can be values or percentages."}},
-      {rest(test::Settings({"3d"})),
-       {"A column chart has no setting '3d'; it can have 3D, stacked and 100%."}},
-      {rest(test::Settings({"3D", "exploded"})),
+      {rest(Settings({"3d"})), {"A column chart has no setting '3d'; it can have 3D, stacked and 100%."}},
+      {rest(Settings({"3D", "exploded"})),
        {"A column chart has no setting 'exploded'; it can have 3D, stacked and 100%."}},
       {rest("<sort-order sort=\"down\"><column name=\"Cost\"/></sort-order>"),
        {"The attribute 'sort' has an unknown value 'down'; it can be ascending or descending."}},
@@ -297,13 +296,13 @@ TEST_F(CheckTest, MissingTablesAndColumns) {
 
 TEST_F(CheckTest, BucketTablesThatDoNotFit) {
   const auto found = [&](const S& attributes, const auto& change) {
-    Definition definition = test::BucketDefinition();
+    Definition definition = BucketDefinition();
     definition.attributes = attributes;
-    PlainBook book = test::BucketBook(definition);
+    PlainBook book = BucketBook(definition);
     change(book);
     return Found(book);
   };
-  const S usual = test::BucketDefinition().attributes;
+  const S usual = BucketDefinition().attributes;
   const auto asItIs = [](PlainBook&) {};
   EXPECT_EQ(found("table-id=\"Data1\"", asItIs),
             List{"The definition has no 'strategic-bucket-table-id'; there are VEX_SB1 and Data1."});
@@ -373,8 +372,8 @@ TEST_F(CheckTest, LineBreaksInNamesBreakNoLine) {
 }
 
 TEST_F(CheckTest, DatesAreNumbersToAChart) {
-  Definition definition = test::BubbleDefinition();
-  PlainBook book = test::BubbleBook({{"a", "b", 1, 2, 3}, {"c", "b", 1, 2, 3}}, definition);
+  Definition definition = BubbleDefinition();
+  PlainBook book = BubbleBook({{"a", "b", 1, 2, 3}, {"c", "b", 1, 2, 3}}, definition);
   book.styles =
       "<styleSheet xmlns=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\"><cellXfs><xf/><xf "
       "numFmtId=\"14\"/></cellXfs></styleSheet>";

@@ -19,19 +19,19 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class CommandTest : public test::VerbsTest {};
+class CommandTest : public VerbsTest {};
 
 TEST_F(CommandTest, RefreshPrintsNothingWithoutProblems) {
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
-  const S before = test::BytesOf(book);
+  const S before = BytesOf(book);
   const CommandResult refreshed = RunCommand({"refresh", book, "-o", folder_ / "out.xlsx"});
   EXPECT_EQ(refreshed.code, 0) << refreshed.err;
   EXPECT_EQ(refreshed.out + refreshed.err, "");
-  EXPECT_EQ(test::BytesOf(book), before) << "with -o the workbook itself doesn't change";
+  EXPECT_EQ(BytesOf(book), before) << "with -o the workbook itself doesn't change";
   EXPECT_EQ(RunCommand({"cells", folder_ / "out.xlsx", "VEX_ChartData!A1:D3"}).out,
             "VEX_Chart1\t\tWidget\tGadget\nVEX_Chart1\tEast\t11\t7\nVEX_Chart1\tWest\t5\t\n");
   EXPECT_EQ(RunCommand({"refresh", book}).code, 0);
-  EXPECT_NE(test::BytesOf(book), before);
+  EXPECT_NE(BytesOf(book), before);
 }
 
 TEST_F(CommandTest, UnreadableFilesAreReportedAndNothingIsWritten) {
@@ -51,11 +51,11 @@ TEST_F(CommandTest, UnreadableFilesAreReportedAndNothingIsWritten) {
   };
   const S pipe = folder_ / "pipe.xlsx";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  test::PlainBook damaged = SalesBook({{"VEX_Chart1"}});
+  PlainBook damaged = SalesBook({{"VEX_Chart1"}});
   damaged.Sheet("Data1").afterData =
       "</worksheet><";  // The damage is after the cells, where it doesn't matter.
   const S odd = Write(damaged, "odd.xlsx");
-  damaged.Sheet("Data1").rows.push_back({test::RawCell{" t='x><v>1</v></c>"}});
+  damaged.Sheet("Data1").rows.push_back({RawCell{" t='x><v>1</v></c>"}});
   const S bad = Write(damaged, "bad.xlsx");
   damaged.workbookExtra =
       "<sheets><sheet name='One' r:id='rId1'/><sheet name='Two' r:id='rId2'/><sheet name='Three' "
@@ -83,12 +83,12 @@ TEST_F(CommandTest, UnreadableFilesAreReportedAndNothingIsWritten) {
       {shared, "its sheets One and Three share one part"},
       {bad, "its part /xl/worksheets/sheet1.xml can't be read: its XML is damaged"}};
   for (const auto& [path, reason] : cases) {
-    const auto before = path == pipe ? S() : test::BytesIfThere(path);  // The pipe would wait for a writer.
+    const auto before = path == pipe ? S() : BytesIfThere(path);  // The pipe would wait for a writer.
     const CommandResult result = RunCommand({"refresh", path, "-o", folder_ / "out.xlsx"});
     EXPECT_EQ(result.code, 3) << path;
     EXPECT_EQ(result.err, "plotsmith: can't read \"" + path + "\": " + reason + ".\n");
     EXPECT_FALSE(std::filesystem::exists(folder_ / "out.xlsx"));
-    EXPECT_EQ(path == pipe ? S() : test::BytesIfThere(path), before);
+    EXPECT_EQ(path == pipe ? S() : BytesIfThere(path), before);
   }
   EXPECT_EQ(RunCommand({"refresh", odd}).code, 0);
   std::filesystem::create_symlink("round", folder_.Path() / "round");
@@ -133,7 +133,7 @@ TEST_F(CommandTest, NothingIsSavedAfterTheOutputWasLost) {
     int overflow(int) override { return traits_type::eof(); }
   } full;
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
-  const S before = test::BytesOf(book);
+  const S before = BytesOf(book);
   for (const std::vector<S>& arguments : std::vector<std::vector<S>>{
            {"refresh", book, "--journal"}, {"cells", book, "Data1!A1"}, {"--version"}}) {
     std::ostream out(&full);
@@ -142,7 +142,7 @@ TEST_F(CommandTest, NothingIsSavedAfterTheOutputWasLost) {
     EXPECT_EQ(RunCommandLine(arguments, {in, out, err, false}), 3);
     EXPECT_EQ(err.str(), "plotsmith: the output can't be written.\n");
   }
-  EXPECT_EQ(test::BytesOf(book), before);
+  EXPECT_EQ(BytesOf(book), before);
 }
 
 TEST_F(CommandTest, WrongUsageHasExitCode2) {
@@ -175,11 +175,11 @@ TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsRefused) {
   for (const char* lock : {".~lock.book.xlsx#", "~$book.xlsx"}) {
     const S book = Write(SalesBook({{"VEX_Chart1"}}));
     std::ofstream(folder_ / lock) << "somebody";
-    const S before = test::BytesOf(book);
+    const S before = BytesOf(book);
     const CommandResult refused = RunCommand({"refresh", book});
     EXPECT_EQ(refused.code, 3);
     EXPECT_NE(refused.err.find("is open in another program"), S::npos);
-    EXPECT_EQ(test::BytesOf(book), before);
+    EXPECT_EQ(BytesOf(book), before);
     EXPECT_EQ(RunCommand({"refresh", book, "-o", folder_ / "other.xlsx"}).code, 0) << "it is only read then";
     EXPECT_EQ(RunCommand({"refresh", book, "--force"}).code, 0);
     std::filesystem::remove(folder_ / lock);
@@ -187,10 +187,10 @@ TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsRefused) {
 }
 
 TEST_F(CommandTest, ListsAndJson) {
-  test::PlainBook plain = SalesBook({{"VEX_Chart1", "bar"}});
-  plain.Sheet("Data1").rows[1][2] = test::RawCell{" t='e'><v>#N/A</v></c>"};
+  PlainBook plain = SalesBook({{"VEX_Chart1", "bar"}});
+  plain.Sheet("Data1").rows[1][2] = RawCell{" t='e'><v>#N/A</v></c>"};
   const S book = Write(plain);
-  const S before = test::BytesOf(book);
+  const S before = BytesOf(book);
   EXPECT_EQ(RunCommand({"tables", book}).out,
             "Data1  \"Data1\"\n  sheet Data1, rows 1 to 5 (4 of data), from column 1\n  label\tcolumn "
             "1\tRegion\n  label\tcolumn 2\tProduct\n  label\tcolumn 3\tAmount\n  number\tcolumn 4\tCost\n");
@@ -226,13 +226,13 @@ TEST_F(CommandTest, ListsAndJson) {
             "[[\"East\",\"Widget\",\"#N/A\"],[\"West\",\"Widget\",\"5\"]]\n");
   EXPECT_EQ(RunCommand({"cells", book, "Data1!C:C", "--value", "--json"}).out,
             "[[\"Amount\"],[\"#N/A\"],[5.0],[7.0],[1.0]]\n");
-  EXPECT_EQ(test::BytesOf(book), before) << "reading commands write nothing";
+  EXPECT_EQ(BytesOf(book), before) << "reading commands write nothing";
 
   // The id of a chart takes precedence over the names of others.
   auto alike = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
   alike.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
   const S twins = Write(alike, "twins.xlsx");
-  test::EditPart(twins, "/xl/worksheets/sheet3.xml", [](S& sheet) {
+  EditPart(twins, "/xl/worksheets/sheet3.xml", [](S& sheet) {
     const S name = "Name of VEX_Chart1";
     sheet.replace(sheet.find(name), name.size(), "VEX_Chart2");
   });
@@ -240,12 +240,12 @@ TEST_F(CommandTest, ListsAndJson) {
 }
 
 TEST_F(CommandTest, EachStateHasItsReason) {
-  test::Definition gone{"VEX_Chart1", "bar", "table-id=\"Gone\""}, column{"VEX_Chart2"};
+  Definition gone{"VEX_Chart1", "bar", "table-id=\"Gone\""}, column{"VEX_Chart2"};
   column.values = "<values><column name=\"Nowhere\"/></values>";
   auto plain = SalesBook({gone, column, {"VEX_Chart3"}, {"VEX_Chart4", "unknown"}, {"VEX_Chart5"}});
   plain.Sheet("VEX_ChartDefinitions").rows.back()[0] = runtime::Replace(column.Xml(), "Chart2", "Chart5");
   plain.Sheet("Charts").frames.back().chartXml = runtime::Replace(
-      test::EmptyFrameChart(), "<a:noFill/>", "<a:solidFill><a:srgbClr val=\"FFFFFF\"/></a:solidFill>");
+      EmptyFrameChart(), "<a:noFill/>", "<a:solidFill><a:srgbClr val=\"FFFFFF\"/></a:solidFill>");
   const S book = Write(plain);
   EXPECT_EQ(RunCommand({"refresh", book}).code, 1);
   const S list = RunCommand({"charts", book}).out;
@@ -266,16 +266,15 @@ TEST_F(CommandTest, EachStateHasItsReason) {
 }
 
 TEST_F(CommandTest, DatesHaveAnIsoTextAndANumber) {
-  test::PlainBook plain = SalesBook({});
+  PlainBook plain = SalesBook({});
   plain.styles =
       "<styleSheet xmlns='http://schemas.openxmlformats.org/spreadsheetml/2006/main'><numFmts>"
       "<numFmt numFmtId='170' formatCode='yyyy-mm-dd'/><numFmt numFmtId='171' formatCode='d/m/yy h:mm'/>"
       "</numFmts><cellXfs><xf/><xf numFmtId='170'/><xf numFmtId='20'/><xf numFmtId='171'/>"
       "<xf numFmtId='46'/></cellXfs></styleSheet>";
-  plain.Sheet("Data1").rows = {
-      {test::RawCell{" s='1'><v>45000.25</v></c>"}, test::RawCell{" s='2'><v>45000.25</v></c>"},
-       test::RawCell{" s='3'><v>45000.25</v></c>"}, test::RawCell{" s='4'><v>1.5</v></c>"}, 45000.25,
-       S("text"), test::RawCell{" s='1'><v>-1</v></c>"}}};
+  plain.Sheet("Data1").rows = {{RawCell{" s='1'><v>45000.25</v></c>"}, RawCell{" s='2'><v>45000.25</v></c>"},
+                                RawCell{" s='3'><v>45000.25</v></c>"}, RawCell{" s='4'><v>1.5</v></c>"},
+                                45000.25, S("text"), RawCell{" s='1'><v>-1</v></c>"}}};
   const auto cells = [&](const std::vector<S>& options) {
     return RunCommand(Joined({"cells", Write(plain), "Data1!A1:G1"}, options)).out;
   };
@@ -324,7 +323,7 @@ TEST_F(CommandTest, JournalVersionAndProgress) {
   EXPECT_NE(journal.find("\nChart.ChartType = 57\n"), S::npos);
   EXPECT_NE(journal.find("Chart.SeriesCollection(1).Name = \"=VEX_ChartData!R1C3\""), S::npos);
   const CommandResult watched =
-      RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", test::Watched::kMessages);
+      RunCommand({"refresh", book, "-o", folder_ / "o.xlsx"}, "", Watched::kMessages);
   EXPECT_NE(watched.err.find("\rRefreshing chart 2 ..."), S::npos);
   EXPECT_TRUE(watched.err.ends_with("\r2 charts refreshed\n")) << "the progress line is erased";
   EXPECT_EQ(watched.code, 0);
@@ -353,17 +352,17 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
       << "another table";
 
   // The title of the axis follows, and the heading may have the new name in another case.
-  test::Definition titled{"VEX_Chart1"};
+  Definition titled{"VEX_Chart1"};
   titled.rest = "<axes><axis type=\"label\" label=\"Region\" sticky=\"no\"/></axes>";
   const S other = Write(SalesBook({titled}), "titled.xlsx");
   EXPECT_EQ(RunCommand({"refresh", other}).code, 0);
-  test::EditPart(other, "/xl/worksheets/sheet1.xml",
-                 [](S& sheet) { sheet.replace(sheet.find("Region"), 6, "AREA"); });
+  EditPart(other, "/xl/worksheets/sheet1.xml",
+           [](S& sheet) { sheet.replace(sheet.find("Region"), 6, "AREA"); });
   EXPECT_EQ(RunCommand({"rename-columns", other, "--table", "Data1", "Region=Area"}).code, 0);
   EXPECT_EQ(RunCommand({"refresh", other}).code, 0);
   EXPECT_NE(StoredDefinition(other, "VEX_Chart1").find("label=\"Area\" sticky=\"no\""), S::npos);
 
-  const S before = test::BytesOf(book);
+  const S before = BytesOf(book);
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amount=Units"});
   EXPECT_EQ(result.err, waiting) << "it is already renamed";
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
@@ -371,7 +370,7 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   EXPECT_EQ(result.err,
             "plotsmith: no chart of the table \"Data1\" has a column \"Amuont\".\n"
             "plotsmith: no chart of the table \"Data1\" has a column \"label\".\n");
-  EXPECT_EQ(test::BytesOf(book), before);
+  EXPECT_EQ(BytesOf(book), before);
   for (const auto& [arguments, said] : std::vector<std::pair<std::vector<S>, S>>{
            {{"--table", "Data1", "Region"}, "\"Region\" isn't a renaming"},
            {{"--table", "Data1", "A=B", "A=C"}, "\"A\" is renamed twice"},
@@ -383,7 +382,7 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
     EXPECT_EQ(result.code, 2);
     EXPECT_NE(result.err.find(said), S::npos) << result.err;
   }
-  EXPECT_EQ(test::BytesOf(book), before);
+  EXPECT_EQ(BytesOf(book), before);
 }
 
 }  // namespace

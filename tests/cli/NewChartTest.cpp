@@ -72,7 +72,7 @@ const NewChart kNewCharts[] = {
 <data-labels manual-labels="yes"><data-label show="values"/></data-labels>)"},
 };
 
-class NewChartTest : public test::VerbsTest {
+class NewChartTest : public VerbsTest {
  protected:
   /// Returns the arguments of `new` that make the chart.
   static std::vector<S> Arguments(const S& book, const NewChart& chart) {
@@ -82,28 +82,26 @@ class NewChartTest : public test::VerbsTest {
   /// Returns the rows of the only chart on the data sheet, without its id.
   static S Block(const S& book) {
     const S cells = RunCommand({"cells", book, "VEX_ChartData!A1:F9"}).out;
-    return test::ReplaceMatches(test::ReplaceMatches(cells, "VEX_Chart1|\t+(?=\n)", ""), "\n+$", "\n");
+    return ReplaceMatches(ReplaceMatches(cells, "VEX_Chart1|\t+(?=\n)", ""), "\n+$", "\n");
   }
   /// Returns the definition without the parts that a load reads from the chart or that a refresh copies from
   /// the table.
   static S Written(const S& book) {
-    return test::ReplaceMatches(
-        StoredDefinition(book, "VEX_Chart1"),
-        " (table-top-row|table-left-column|table-height|header-row-count|data-start-row|"
-        "worksheet-column-number|bucket-[a-z]+-column-position)=\"[0-9]+\"|"
-        "<auto-persistence>.*</auto-persistence>",
-        "");
+    return ReplaceMatches(StoredDefinition(book, "VEX_Chart1"),
+                          " (table-top-row|table-left-column|table-height|header-row-count|data-start-row|"
+                          "worksheet-column-number|bucket-[a-z]+-column-position)=\"[0-9]+\"|"
+                          "<auto-persistence>.*</auto-persistence>",
+                          "");
   }
   /// Returns the part of the only chart, without its legend.
   static S ChartPart(const S& book) {
     const S part = xlsx::Package::Open(book).Read("/xl/charts/chart1.xml");
-    return test::ReplaceMatches(part, "<c:legend>.*</c:legend>", "");
+    return ReplaceMatches(part, "<c:legend>.*</c:legend>", "");
   }
 };
 
 TEST_F(NewChartTest, ChartsOfAllTypesAreMadeOnAPlainWorkbookAndARefreshChangesNothing) {
-  const S book = Write(test::PlainSales()), out = folder_ / "out.xlsx",
-          refreshed = folder_ / "refreshed.xlsx";
+  const S book = Write(PlainSales()), out = folder_ / "out.xlsx", refreshed = folder_ / "refreshed.xlsx";
   for (const NewChart& chart : kNewCharts) {
     const CommandResult result = RunCommand(Joined(Arguments(book, chart), {"-o", out}));
     EXPECT_EQ(result.code, 0) << chart.type;
@@ -124,15 +122,15 @@ TEST_F(NewChartTest, ChartsOfAllTypesAreMadeOnAPlainWorkbookAndARefreshChangesNo
 }
 
 TEST_F(NewChartTest, ThePrintedScriptMakesTheSameChart) {
-  const S book = Write(test::PlainSales()), out = folder_ / "out.xlsx", played = folder_ / "played.xlsx";
-  const S before = test::BytesOf(book);
+  const S book = Write(PlainSales()), out = folder_ / "out.xlsx", played = folder_ / "played.xlsx";
+  const S before = BytesOf(book);
   for (const NewChart& chart : kNewCharts) {
     ASSERT_EQ(RunCommand(Joined(Arguments(book, chart), {"-o", out})).code, 0) << chart.type;
     const CommandResult printed = RunCommand(Joined(Arguments(book, chart), {"--print-script"}));
     EXPECT_EQ(printed.code, 0) << chart.type;
-    EXPECT_EQ(test::BytesOf(book), before);
+    EXPECT_EQ(BytesOf(book), before);
     EXPECT_EQ(Wizard(book, printed.out, {"-o", played}).code, 0) << printed.out;
-    EXPECT_EQ(test::BytesOf(played), test::BytesOf(out)) << chart.type;
+    EXPECT_EQ(BytesOf(played), BytesOf(out)) << chart.type;
   }
   EXPECT_EQ(RunCommand(Joined(Arguments(book, kNewCharts[2]), {"--new-sheet", "Mine", "--print-script"})).out,
             R"(page frmPSSelectTable

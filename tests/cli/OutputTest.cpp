@@ -14,7 +14,7 @@ using namespace test;
 using S = std::string;
 
 /// Tests the outputs of the verbs.
-class OutputTest : public test::VerbsTest {
+class OutputTest : public VerbsTest {
  protected:
   S WriteSales() { return Write(SalesBook({{"VEX_Chart1"}})); }
   S WriteWithMacros() {
@@ -48,16 +48,16 @@ class OutputTest : public test::VerbsTest {
 TEST_F(OutputTest, EachWritingVerbWritesTheSameToTheStandardOutputAsToAFile) {
   const S book = WriteSales(), file = folder_ / "file.xlsx";
   ASSERT_EQ(RunCommand({"refresh", book}).code, 0);
-  const S before = test::BytesOf(book);
+  const S before = BytesOf(book);
   for (const std::vector<S>& verb : WritingVerbs(book)) {
     SCOPED_TRACE(verb.front());
     const CommandResult saved = RunCommand(Joined(verb, {"-o", file, "--journal"}));
     const CommandResult printed = RunCommand(Joined(verb, {"-o", "-", "--journal"}));
     EXPECT_LE(printed.code, 1) << printed.err;
     EXPECT_EQ(printed.code, saved.code);
-    EXPECT_EQ(printed.out, test::BytesOf(file)) << "there is no other output";
+    EXPECT_EQ(printed.out, BytesOf(file)) << "there is no other output";
     EXPECT_EQ(printed.err, saved.out + saved.err) << "the output and the messages";
-    EXPECT_EQ(test::BytesOf(book), before);
+    EXPECT_EQ(BytesOf(book), before);
     std::filesystem::remove(file);
   }
   EXPECT_FALSE(std::filesystem::exists("-"));
@@ -66,7 +66,7 @@ TEST_F(OutputTest, EachWritingVerbWritesTheSameToTheStandardOutputAsToAFile) {
 TEST_F(OutputTest, AWorkbookIsNotWrittenToATerminal) {
   const S book = WriteSales();
   for (const std::vector<S>& verb : WritingVerbs(book)) {
-    const CommandResult refused = RunCommand(Joined(verb, {"-o", "-"}), "", test::Watched::kEverything);
+    const CommandResult refused = RunCommand(Joined(verb, {"-o", "-"}), "", Watched::kEverything);
     EXPECT_EQ(refused.code, 2) << verb.front();
     EXPECT_EQ(refused.out, "");
     EXPECT_EQ(refused.err,
@@ -89,7 +89,7 @@ TEST_F(OutputTest, TheContentTypeFollowsTheExtension) {
       const CommandResult saved = RunCommand({"refresh", source, "-o", out});
       EXPECT_EQ(saved.code, 0) << saved.err;
       EXPECT_EQ(MainType(out), to.second) << "from " << from.first;
-      EXPECT_EQ(test::PackageComplaints(out), "");
+      EXPECT_EQ(PackageComplaints(out), "");
     }
     EXPECT_EQ(MainType(source), from.second);
   }

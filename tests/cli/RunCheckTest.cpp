@@ -19,7 +19,7 @@ const S kDrawingPart = "/xl/drawings/drawing2.xml";
 const S kChartPart = "/xl/charts/chart1.xml";
 
 /// Tests the messages on stderr with which writing commands report what happens to a person's work.
-class RunCheckTest : public test::VerbsTest {
+class RunCheckTest : public VerbsTest {
  protected:
   /// Writes a workbook with these texts in the rows of the definitions, and with a chart for VEX_Chart1.
   void WriteRows(const List& rows) {
@@ -78,8 +78,7 @@ TEST_F(RunCheckTest, NothingIsWrittenIfADefinitionWouldBeLost) {
        0}};
   for (const auto& row : cases) {
     WriteRows(row.rows);
-    const S before = test::BytesOf(path_),
-            line = "plotsmith: VEX_ChartDefinitions!" + row.place + row.sentence;
+    const S before = BytesOf(path_), line = "plotsmith: VEX_ChartDefinitions!" + row.place + row.sentence;
     for (const List& verb : {List{"refresh", path_}, List{"delete", path_, "VEX_Chart1"},
                              List{"new", path_, "--table", "Data1", "--type", "pie"},
                              List{"rename-columns", path_, "--table", "Data1", "Amount=Sum"},
@@ -90,7 +89,7 @@ TEST_F(RunCheckTest, NothingIsWrittenIfADefinitionWouldBeLost) {
                 line +
                     ".\nplotsmith: nothing was changed, because 1 definition would be lost; correct "
                     "this, or use --drop-broken.\n");
-      EXPECT_EQ(test::BytesOf(path_), before) << verb[0];
+      EXPECT_EQ(BytesOf(path_), before) << verb[0];
     }
     const S noCharts = row.charts == 0 ? kStray + NothingToRefresh() : "";
     EXPECT_EQ(Refresh({"--drop-broken"}), line + "; the row was dropped.\n" + noCharts);
@@ -134,7 +133,7 @@ TEST_F(RunCheckTest, AGroupedChartIsNotLost) {
 TEST_F(RunCheckTest, UnreadRowsAndUnknownNamesAreReported) {
   Definition odd{"VEX_Chart1"};
   odd.attributes += " colour=\"red\"";
-  odd.rest = test::Settings({"staked"});
+  odd.rest = Settings({"staked"});
   WriteRows({"Notes", odd.Xml(), "", odd.Xml()});
   const S settings = "A column chart has no setting 'staked'; it can have 3D, stacked and 100%.";
   const S colour =
@@ -160,7 +159,7 @@ TEST_F(RunCheckTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
   Definition definition{"VEX_Chart1"};
   definition.rest = "<axes><axis type=\"value\" label=\"Euro\" sticky=\"no\"/></axes>";
   PlainBook book = SalesBook({definition});
-  book.sheets.push_back(test::SalesSheet("Data2"));
+  book.sheets.push_back(SalesSheet("Data2"));
   Write(book);
   EXPECT_EQ(Refresh(), "");
   EXPECT_EQ(Refresh(), "") << "a drawn chart is read back as it was stored";
@@ -303,7 +302,7 @@ TEST_F(RunCheckTest, APossiblyRenamedColumnIsReported) {
   EXPECT_NE(taken.find("; it has Region, Product, Product and Cost.\n"), S::npos)
       << taken << "a column that the chart already has isn't a new name";
 
-  test::Definition other{"VEX_Chart2"};
+  Definition other{"VEX_Chart2"};
   other.values = "<values><column name=\"Cost\"/></values>";
   Write(SalesBook({{"VEX_Chart1"}, other}));
   EXPECT_EQ(Refresh(), "");
@@ -325,13 +324,12 @@ TEST_F(RunCheckTest, ABubbleWithoutALabelPreventsTheLegend) {
        "in the cell"},
       {"g|x", "a label here with the character '|', so the chart has no drawn legend; remove the character"}};
   for (const auto& [label, sentence] : cases) {
-    Write(test::BubbleBook(
-        {{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"C", "h", 1, 1, 1}, {"c", label, 3, 4, 5}},
-        test::BubbleDefinition()));
+    Write(BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"C", "h", 1, 1, 1}, {"c", label, 3, 4, 5}},
+                     BubbleDefinition()));
     EXPECT_EQ(Refresh(), Line(start + sentence + again, "Data1!B5"));
     EXPECT_EQ(Refresh({"--host-version", "11"}), "") << "this version uses the chart's own legend";
   }
-  PlainBook plain = test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition());
+  PlainBook plain = BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, BubbleDefinition());
   plain.Sheet("VEX_ChartDefinitions").rows.resize(1);
   plain.Sheet("Charts").frames.clear();
   Write(plain);
@@ -340,17 +338,16 @@ TEST_F(RunCheckTest, ABubbleWithoutALabelPreventsTheLegend) {
   EXPECT_EQ(made.code, 1);
   EXPECT_NE(made.err.find("Data1!B3 (chart"), S::npos)
       << made.err << "its definition has no numbers of columns yet";
-  Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition()));
+  Write(BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, BubbleDefinition()));
   Edit("/xl/worksheets/sheet1.xml", "Size", "Weight");
   EXPECT_EQ(Refresh().find("Data1!B3"), S::npos) << "a chart that can't be drawn has other problems";
-  Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"c", "g|h", 3, 4, 5}},
-                         test::BubbleDefinition()));
+  Write(BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"c", "g|h", 3, 4, 5}}, BubbleDefinition()));
   EXPECT_EQ(Refresh(), "") << "each piece has a colour";
 }
 
 TEST_F(RunCheckTest, TooManyBucketsAreReported) {
   const auto write = [&](int count) {
-    PlainBook book = test::BucketBook(test::BucketDefinition());
+    PlainBook book = BucketBook(BucketDefinition());
     auto& rows = book.Sheet("Buckets").rows;
     rows.resize(3);
     for (int i = 1; i <= count; ++i) rows.push_back({"b" + std::to_string(i), 1.0 * i});
@@ -414,13 +411,13 @@ TEST_F(RunCheckTest, AmbiguousChartsPreventNewAndDeletedCharts) {
   const std::pair<PlainBook, S> cases[] = {{bare, kStray}, {twice, second}, {gap, unread}};
   for (const auto& [book, said] : cases) {
     Write(book);
-    const S before = test::BytesOf(path_);
+    const S before = BytesOf(path_);
     for (const List& verb : {List{"new", path_, "--table", "Data1", "--type", "pie"},
                              List{"delete", path_, "VEX_Chart1"}, List{"wizard", path_, "--script", "-"}}) {
       const CommandResult refused = RunCommand(verb);
       EXPECT_EQ(refused.code, 3) << said;
       EXPECT_EQ(refused.err, said + drop);
-      EXPECT_EQ(test::BytesOf(path_), before);
+      EXPECT_EQ(BytesOf(path_), before);
     }
     EXPECT_EQ(Refresh(), said + (said == kStray ? NothingToRefresh() : ""));
   }
@@ -428,7 +425,7 @@ TEST_F(RunCheckTest, AmbiguousChartsPreventNewAndDeletedCharts) {
 
 TEST_F(RunCheckTest, AWorkbookWithoutDefinitionsHasNoOtherMessages) {
   PlainBook book;
-  book.sheets.push_back(test::SalesSheet("Sheet1"));
+  book.sheets.push_back(SalesSheet("Sheet1"));
   book.sheets[0].rows[1][2] = RawCell{"><f>1+1</f><v></v></c>"};
   book.sheets[0].frames = {{"", "", 0, 0, 8, 18}, {"VEX_Table1"}};
   Write(book);

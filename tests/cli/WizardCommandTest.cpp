@@ -13,7 +13,7 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class WizardCommandTest : public test::VerbsTest {};
+class WizardCommandTest : public VerbsTest {};
 
 TEST_F(WizardCommandTest, NothingElseIsSaved) {
   const struct {
@@ -42,13 +42,13 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
        "or 'Cancel' to abort.' has no answer; a line 'answer ok' or 'answer cancel' gives it in advance.\n"},
   };
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
-  const S before = test::BytesOf(book), out = folder_ / "out.xlsx";
+  const S before = BytesOf(book), out = folder_ / "out.xlsx";
   for (const auto& item : cases) {
     for (const std::vector<S>& more : {std::vector<S>{}, {"-o", out}, {"--host-version", "11"}}) {
       const CommandResult result = Wizard(book, item.script, more);
       EXPECT_EQ(result.code, item.code) << item.name;
       EXPECT_EQ(result.err, item.err) << item.name;
-      EXPECT_EQ(test::BytesOf(book), before) << item.name;
+      EXPECT_EQ(BytesOf(book), before) << item.name;
       EXPECT_FALSE(std::filesystem::exists(out)) << item.name;
     }
   }
@@ -56,7 +56,7 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
 
 TEST_F(WizardCommandTest, TheScriptMustExpectTheWizardsMessages) {
   const S empty = [&] {
-    test::PlainBook book;
+    PlainBook book;
     book.sheets.push_back({"Sheet1"});
     return Write(book, "empty.xlsx");
   }();
@@ -68,7 +68,7 @@ TEST_F(WizardCommandTest, TheScriptMustExpectTheWizardsMessages) {
 }
 
 TEST_F(WizardCommandTest, PagesDoNotNestWithoutEnd) {
-  const S book = Write(test::PlainSales());
+  const S book = Write(PlainSales());
   const S start = "select grdTables Data1\nchoose optType(1)\n";
   const auto forthAndBack = [](int times) {
     S lines;
@@ -83,7 +83,7 @@ TEST_F(WizardCommandTest, PagesDoNotNestWithoutEnd) {
 }
 
 TEST_F(WizardCommandTest, PagesAreShown) {
-  const S book = Write(test::PlainSales());
+  const S book = Write(PlainSales());
   const CommandResult shown =
       Wizard(book, "select grdTables Data1\nshow\nchoose optType(3)\npress cmdNext", {"--show"});
   EXPECT_TRUE(

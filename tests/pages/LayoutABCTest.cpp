@@ -6,7 +6,7 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class LayoutABCTest : public test::PagesTest {};
+class LayoutABCTest : public PagesTest {};
 
 constexpr int kBarType = 0, kColumnType = 1, kAreaType = 2;
 
@@ -87,7 +87,7 @@ TEST_F(LayoutABCTest, RestoredStatesAreConsistent) {
   Definition both, hundred, gone;
   both.categories = "<categories headings-in=\"columns\">" + columns + "</categories>";
   both.series = "<series headings-in=\"columns\">" + columns + "</series>";
-  hundred.rest = test::Settings({"100%"});
+  hundred.rest = Settings({"100%"});
   gone.categories = "<categories headings-in=\"rows\"><column name=\"Country\"/></categories>";
   gone.rest =
       "<axes><axis type=\"other\" label=\"No\"/><axis type=\"label\" label=\"Old\" sticky=\"yes\"/></axes>";

@@ -7,7 +7,7 @@ using namespace test;
 using S = std::string;
 
 /// Tests the layout pages of pie, bubble and strategic bucket charts.
-class SmallLayoutsTest : public test::PagesTest {};
+class SmallLayoutsTest : public PagesTest {};
 
 constexpr int kPie = 3, kBubble = 4, kBucket = 5;
 

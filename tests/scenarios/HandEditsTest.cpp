@@ -24,7 +24,7 @@ void ReplaceSpan(S& text, const S& from, const S& to, const S& what) {
   text.replace(begin, text.find(to, begin) - begin, what);
 }
 
-class HandEditsTest : public test::HostTest {
+class HandEditsTest : public HostTest {
  protected:
   /// Changes the saved file, as another program could.
   void Edit(const std::function<void(xlsx::Package&)>& edit) {
@@ -34,7 +34,7 @@ class HandEditsTest : public test::HostTest {
     OpenFile(folder_ / "saved.xlsx");
   }
   void EditChart(const std::function<void(S&)>& edit) {
-    test::EditPart(folder_ / "saved.xlsx", kChart, edit);
+    EditPart(folder_ / "saved.xlsx", kChart, edit);
     OpenFile(folder_ / "saved.xlsx");
   }
   void DrawChart(const S& rest) {
@@ -192,7 +192,7 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
 }
 
 TEST_F(HandEditsTest, TheMarksOfBucketsKeepTheFontOfTheirLabels) {
-  Open(test::BucketBook(test::BucketDefinition()));
+  Open(BucketBook(BucketDefinition()));
   RefreshAndReopen();
   const S labels = "<c:dLbls>", georgia = "<a:latin typeface=\"Georgia\"/>";
   EditChart([&](S& xml) {
@@ -221,7 +221,7 @@ TEST_F(HandEditsTest, TheMarksOfBucketsKeepTheFontOfTheirLabels) {
 }
 
 TEST_F(HandEditsTest, ThreeDimensionsKeepTheirView) {
-  DrawChart(test::Settings({"3D"}));
+  DrawChart(Settings({"3D"}));
   EditChart([](S& xml) {
     ReplaceSpan(xml, "<c:view3D>", "<c:floor",
                 "<c:view3D><c:rotX val=\"40\"/><c:rotY val=\"120\"/><c:rAngAx val=\"0\"/><c:perspective "
@@ -240,7 +240,7 @@ TEST_F(HandEditsTest, ThreeDimensionsKeepTheirView) {
 
 TEST_F(HandEditsTest, AChartIsFoundOnTheSheetToWhichItWasMoved) {
   auto book = SalesBook({{"VEX_Chart1"}});
-  test::PlainSheet other{"Other"};
+  PlainSheet other{"Other"};
   other.frames = {{"not ours", ""}};
   book.sheets.insert(book.sheets.begin() + 2, other);
   Open(book);
@@ -276,7 +276,7 @@ TEST_F(HandEditsTest, ChartsWithoutMarkersAreIdentifiedByTheirData) {
     for (const S marker : {"VEX_Chart1", "VEX_Chart2", "VEX_Chart2"})
       ReplaceFirst(xml, " descr=\"" + marker + "\"", "");
     package.Replace("/xl/drawings/drawing2.xml", xml);
-    test::SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64");
+    SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64");
   });
   RefreshAndReopen();
   std::vector<S> markers;
