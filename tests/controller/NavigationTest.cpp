@@ -119,14 +119,6 @@ TEST_F(NavigationTest, MessagesAndErrors) {
   EXPECT_FALSE(bRunAborted);
 }
 
-TEST_F(NavigationTest, ARunWithoutTablesOpensNoPageAndEnds) {
-  PlainBook bare;
-  bare.sheets = {SalesSheet("Sheet1")};
-  Open(bare);
-  EXPECT_EQ(Run({}), "");
-  EXPECT_FALSE(colTables);
-}
-
 class EntryTest : public HostTest {};
 
 TEST_F(EntryTest, GuardsReportInOrder) {
