@@ -9,8 +9,7 @@
 #include "cli/batch/Workers.h"
 #include "runtime/Strings.h"
 #include "tests/support/Files.h"
-#include "tests/support/HostTest.h"
-#include "tests/support/RunCommand.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -20,25 +19,19 @@ using namespace test;
 using S = std::string;
 
 /// Tests refreshing several workbooks. The output names them without their folder.
-class BatchTest : public ::testing::Test {
+class BatchTest : public VerbsTest {
  protected:
-  S Write(const S& name, const test::PlainBook& book) {
-    fs::create_directories(fs::path(folder_ / name).parent_path());
-    book.Write(folder_ / name);
-    return folder_ / name;
-  }
-  S Write(const S& name) { return Write(name, SalesBook({{"VEX_Chart1"}})); }
+  using VerbsTest::Write;
+  S Write(const S& name) { return Write(SalesBook({{"VEX_Chart1"}}), name); }
   /// Writes a workbook with a chart that can be drawn and one whose table doesn't exist.
   S WriteHalf(const S& name) {
     auto book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Gone\""}});
     book.Sheet("Charts").frames[1].alternativeText = "VEX_Chart2";
-    return Write(name, book);
+    return Write(book, name);
   }
   /// Returns true if the chart of a workbook is drawn.
-  static bool IsDrawn(const S& path) { return RunCommand({"charts", path}).out.ends_with("\n  ok\n"); }
+  static bool IsDrawn(const S& path) { return Charts(path).ends_with("\n  ok\n"); }
   S Plain(const S& text) const { return runtime::Replace(text, folder_.Path().string() + "/", ""); }
-
-  test::TempFolder folder_;
 };
 
 TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
@@ -69,7 +62,7 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
                                     "b.xlsx: 1 chart refreshed, 1 unavailable\n"
                                     "none.xlsx: plotsmith: can't read \"none.xlsx\": there is no such file.\n"
                                     "3 workbooks: 2 charts refreshed, 1 unavailable, 1 workbook failed\n");
-  const CommandResult watched = RunCommand({"refresh", first, last}, "", test::Watched::kMessages);
+  const CommandResult watched = RunCommand({"refresh", first, last}, "", Watched::kMessages);
   EXPECT_EQ(watched.code, 0);
   EXPECT_TRUE(watched.err.starts_with("Refreshed 1 of 2 workbooks ...\r")) << watched.err;
   EXPECT_TRUE(watched.err.ends_with("\r2 workbooks: 2 charts refreshed\n")) << watched.err;
@@ -77,8 +70,8 @@ TEST_F(BatchTest, OneThatFailsDoesNotStopTheOthers) {
 
 TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
   auto two = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "column", "table-id=\"Data2\""}});
-  two.sheets.push_back(test::SalesSheet("Data2"));
-  const S both = Write("both.xlsx", two), one = Write("one.xlsx");
+  two.sheets.push_back(SalesSheet("Data2"));
+  const S both = Write(two, "both.xlsx"), one = Write("one.xlsx");
   const CommandResult table = RunCommand({"refresh", both, one, "--table", "Data2", "--journal"});
   EXPECT_EQ(table.code, 2) << "the second workbook has no such table";
   EXPECT_EQ(
@@ -96,14 +89,16 @@ TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
 }
 
 TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
+  fs::create_directory(folder_ / "one");
+  fs::create_directory(folder_ / "two");
   const S first = Write("one/a.xlsx"), second = Write("two/b.xlsx"), twin = Write("two/a.xlsx"),
           out = folder_ / "out";
-  const S before = test::BytesOf(first);
+  const S before = BytesOf(first);
   fs::create_directory(out);
   std::ofstream(folder_ / "file") << "x";
   EXPECT_EQ(RunCommand({"refresh", first, second, "-o", out}).code, 0);
   EXPECT_TRUE(IsDrawn(out + "/a.xlsx") && IsDrawn(out + "/b.xlsx"));
-  EXPECT_EQ(test::BytesOf(first), before);
+  EXPECT_EQ(BytesOf(first), before);
   fs::remove(out + "/a.xlsx");
   EXPECT_EQ(RunCommand({"refresh", first, "-o", out}).code, 0) << "also a single one";
   EXPECT_TRUE(fs::exists(out + "/a.xlsx"));
@@ -122,14 +117,13 @@ TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
       {{second, first, "-o", folder_ / "one"},
        "\"one/a.xlsx\" is in the folder \"one\" itself; without -o it is refreshed in place."},
       {{first, second, "--jobs", "0"}, "--jobs needs a number of at least 1."}};
-  for (auto [arguments, said] : cases) {
-    arguments.insert(arguments.begin(), "refresh");
-    const CommandResult result = RunCommand(arguments);
+  for (const auto& [arguments, said] : cases) {
+    const CommandResult result = RunCommand(Joined({"refresh"}, arguments));
     EXPECT_EQ(result.code, 2);
     EXPECT_EQ(Plain(result.err), "plotsmith: " + said + "\n");
   }
   EXPECT_TRUE(fs::is_empty(out)) << "all workbooks are refused before the work";
-  EXPECT_EQ(test::BytesOf(first), before);
+  EXPECT_EQ(BytesOf(first), before);
 }
 
 TEST_F(BatchTest, AWorkbookWithSeveralNamesIsRefreshedOnce) {
@@ -168,7 +162,7 @@ TEST_F(BatchTest, AWorkerThatDiesAffectsOnlyItsOwnWorkbook) {
 TEST_F(BatchTest, AnInterruptStopsTheWorkBetweenOldAndNew) {
   std::vector<BookRun> runs;
   for (int i = 0; i < 40; ++i) runs.push_back({Write(std::to_string(i) + ".xlsx"), std::nullopt});
-  const S before = test::BytesOf(runs[0].book);
+  const S before = BytesOf(runs[0].book);
   const pid_t self = getpid();
   const auto doRun = [&](const BookRun& run, const Streams& to) -> BookResult {
     if (run.book == runs[5].book) kill(self, SIGINT);
@@ -180,7 +174,7 @@ TEST_F(BatchTest, AnInterruptStopsTheWorkBetweenOldAndNew) {
   std::ostringstream out, err;
   EXPECT_EQ(RunBatch(runs, doRun, 2, false, {in, out, err}), 128 + SIGINT);
   EXPECT_TRUE(err.str().starts_with("plotsmith: stopped by a signal; ")) << err.str();
-  EXPECT_EQ(test::BytesOf(runs[39].book), before) << "the rest isn't done";
+  EXPECT_EQ(BytesOf(runs[39].book), before) << "the rest isn't done";
   int files = 0;
   for (const auto& entry : fs::directory_iterator(folder_.Path())) {
     ++files;

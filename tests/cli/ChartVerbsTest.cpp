@@ -4,7 +4,7 @@
 
 #include "tests/support/Files.h"
 #include "tests/support/Patterns.h"
-#include "tests/support/WizardVerbsTest.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -13,16 +13,16 @@ using namespace test;
 using S = std::string;
 
 /// Verbs on a workbook with two charts, one of which has a table without a label column.
-class ChartVerbsTest : public test::WizardVerbsTest {
+class ChartVerbsTest : public VerbsTest {
  protected:
   ChartVerbsTest() {
-    test::Definition first{"VEX_Chart1"}, second{"VEX_Chart2", "pie", "table-id=\"Data2\" title=\"\""};
+    Definition first{"VEX_Chart1"}, second{"VEX_Chart2", "pie", "table-id=\"Data2\" title=\"\""};
     second.series = "<series headings-in=\"none\"/>";
-    test::PlainBook book = SalesBook({first, second});
-    test::PlainSheet numbers{"Data2"};
+    PlainBook book = SalesBook({first, second});
+    PlainSheet numbers{"Data2"};
     numbers.rows = {{S("Amount"), S("Cost")}, {1.0, 2.0}};
     book.sheets.push_back(numbers);
-    book.sheets.push_back(test::SalesSheet("Data3"));
+    book.sheets.push_back(SalesSheet("Data3"));
     book_ = Write(book);
     // This draws the first chart and shows a message for the second one.
     EXPECT_EQ(RunCommand({"refresh", book_}).code, 1);
@@ -30,9 +30,8 @@ class ChartVerbsTest : public test::WizardVerbsTest {
   /// Runs a verb on the workbook with another output file.
   CommandResult Verb(std::vector<S> arguments) {
     arguments.insert(arguments.begin() + 1, book_);
-    arguments.insert(arguments.end(), {"-o", out_});
     std::filesystem::remove(out_);
-    return RunCommand(arguments);
+    return RunCommand(Joined(arguments, {"-o", out_}));
   }
 
   S book_;
@@ -98,14 +97,14 @@ TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
       {{"modify", "VEX_Chart2", "--title", "x"},
        "Table 'Data2' is not currently valid for this chart. You must select a different table to continue."},
   };
-  const S before = test::BytesOf(book_);
+  const S before = BytesOf(book_);
   for (const auto& [arguments, sentence] : cases) {
     const CommandResult result = Verb(arguments);
     EXPECT_EQ(result.code, 2) << sentence;
     EXPECT_EQ(result.err, "plotsmith: " + sentence + "\n");
     EXPECT_EQ(result.out, "");
     EXPECT_FALSE(std::filesystem::exists(out_)) << sentence;
-    EXPECT_EQ(test::BytesOf(book_), before) << sentence;
+    EXPECT_EQ(BytesOf(book_), before) << sentence;
   }
   for (const std::vector<S>& arguments : {std::vector<S>{"new", "--table", "Data1"},
                                           {"new", "--type", "bar"},
@@ -119,13 +118,10 @@ TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
 
 TEST_F(ChartVerbsTest, ModifyChangesOnlyTheGivenSettings) {
   const auto definition = [&](const std::vector<S>& options) {
-    std::vector<S> arguments = {"modify", "NAME of vex_chart1"};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    const CommandResult result = Verb(arguments);
+    const CommandResult result = Verb(Joined({"modify", "NAME of vex_chart1"}, options));
     EXPECT_EQ(result.code, 0) << result.err;
-    return test::ReplaceMatches(Definition(out_, "VEX_Chart1"),
-                                " worksheet-column-number=\"[0-9]\"|<auto-persistence>.*</auto-persistence>",
-                                "");
+    return ReplaceMatches(StoredDefinition(out_, "VEX_Chart1"),
+                          " worksheet-column-number=\"[0-9]\"|<auto-persistence>.*</auto-persistence>", "");
   };
   const S rows = "<categories headings-in=\"rows\"><column name=\"Region\"/></categories>",
           series = "<series headings-in=\"rows\"><column name=\"Product\"/></series>",
@@ -161,7 +157,7 @@ TEST_F(ChartVerbsTest, ModifyChangesOnlyTheGivenSettings) {
 TEST_F(ChartVerbsTest, AChartWithAnUnsuitableTableGetsAnotherOne) {
   const CommandResult result = Verb({"modify", "VEX_Chart2", "--table", "Data1", "--values", "Cost"});
   EXPECT_EQ(result.code, 0) << result.err;
-  const S definition = Definition(out_, "VEX_Chart2");
+  const S definition = StoredDefinition(out_, "VEX_Chart2");
   EXPECT_NE(definition.find("table-id=\"Data1\""), S::npos) << definition;
   EXPECT_NE(definition.find("<values><column name=\"Cost\"/></values>"), S::npos) << definition;
   const S script =
@@ -169,16 +165,16 @@ TEST_F(ChartVerbsTest, AChartWithAnUnsuitableTableGetsAnotherOne) {
           .out;
   EXPECT_NE(script.find("expect message \"Table 'Data2' is not currently valid"), S::npos) << script;
   EXPECT_EQ(Wizard(book_, script, {"-o", folder_ / "played.xlsx"}).code, 0);
-  EXPECT_EQ(test::BytesOf(folder_ / "played.xlsx"), test::BytesOf(out_));
+  EXPECT_EQ(BytesOf(folder_ / "played.xlsx"), BytesOf(out_));
 }
 
 TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
-  test::Definition columns{"VEX_Chart1"};
+  Definition columns{"VEX_Chart1"};
   columns.series = "<series headings-in=\"columns\"><column name=\"Amount\"/></series>";
   columns.values = "";
-  test::PlainBook book = SalesBook({columns});
+  PlainBook book = SalesBook({columns});
   const S twoNumbers = Write(book, "two.xlsx");
-  for (test::PlainRow& row : book.Sheet("Data1").rows) row.pop_back();
+  for (PlainRow& row : book.Sheet("Data1").rows) row.pop_back();
   const S oneNumber = Write(book, "one.xlsx");
   const S byColumn = "<categories headings-in=\"columns\"><column name=\"Amount\"/></categories>",
           byProduct = "<series headings-in=\"rows\"><column name=\"Product\"/></series>";
@@ -199,11 +195,10 @@ TEST_F(ChartVerbsTest, OptionsReachTheirControlsFromAnyLayout) {
   };
   for (const auto& item : cases) {
     book_ = item.book;
-    std::vector<S> arguments = {"modify", "VEX_Chart1"};
-    arguments.insert(arguments.end(), item.options.begin(), item.options.end());
-    const CommandResult result = Verb(arguments);
+    const CommandResult result = Verb(Joined({"modify", "VEX_Chart1"}, item.options));
     EXPECT_EQ(result.code, 0) << result.err;
-    EXPECT_NE(Definition(out_, "VEX_Chart1").find(item.piece), S::npos) << Definition(out_, "VEX_Chart1");
+    EXPECT_NE(StoredDefinition(out_, "VEX_Chart1").find(item.piece), S::npos)
+        << StoredDefinition(out_, "VEX_Chart1");
   }
   EXPECT_EQ(
       Verb({"modify", "VEX_Chart1", "--category-columns", "Amount"}).err,
@@ -220,7 +215,7 @@ TEST_F(ChartVerbsTest, AChartOfAnUnknownTypeGetsAnotherOne) {
 }
 
 TEST_F(ChartVerbsTest, AChartWithoutATableCanOnlyBeDeleted) {
-  test::PlainBook book = SalesBook({{"VEX_Chart1", "column", "table-id=\"Gone\""}});
+  PlainBook book = SalesBook({{"VEX_Chart1", "column", "table-id=\"Gone\""}});
   book_ = Write(book, "gone.xlsx");
   const S sentence =
       "plotsmith: the table of the chart 'VEX_Chart1' no longer exists, so the chart can only be deleted.\n";
@@ -244,9 +239,7 @@ TEST_F(ChartVerbsTest, CopiesAreMadeOnTheGivenSheet) {
        "VEX_Chart3  \"Copy of Name of VEX_Chart1\"\n  area chart on sheet Mine,"},
   };
   for (const auto& [options, line] : cases) {
-    std::vector<S> arguments = {"copy", "VEX_Chart1"};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    const CommandResult result = Verb(arguments);
+    const CommandResult result = Verb(Joined({"copy", "VEX_Chart1"}, options));
     EXPECT_EQ(result.code, 0) << result.err;
     EXPECT_NE(Charts(out_).find(line), S::npos) << Charts(out_);
     EXPECT_NE(Charts(out_).find("VEX_Chart1  \"Name of VEX_Chart1\"\n  column chart on sheet Charts,"),
@@ -265,14 +258,14 @@ TEST_F(ChartVerbsTest, DeletesSeveralCharts) {
 }
 
 TEST_F(ChartVerbsTest, AmbiguousRowsAreSelectedByNumber) {
-  test::PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}, {"VEX_Chart3"}});
+  PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}, {"VEX_Chart3"}});
   book_ = Write(book);
   for (const auto& [chart, name] :
        std::vector<std::pair<S, S>>{{"VEX_Chart1", "Same"}, {"VEX_Chart2", "#2"}, {"VEX_Chart3", "Same"}})
     EXPECT_EQ(RunCommand({"modify", book_, chart, "--name", name}).code, 0) << name;
   const auto selected = [&](const S& chart) {
     const S script = RunCommand({"delete", book_, chart, "--print-script"}).out;
-    return test::ReplaceMatches(script, "(.|\n)*(select .*)\nanswer(.|\n)*", "$2");
+    return ReplaceMatches(script, "(.|\n)*(select .*)\nanswer(.|\n)*", "$2");
   };
   EXPECT_EQ(selected("VEX_Chart2"), "select grdCharts #1");
   EXPECT_EQ(selected("VEX_Chart1"), "select grdCharts #2");
@@ -284,8 +277,8 @@ TEST_F(ChartVerbsTest, AmbiguousRowsAreSelectedByNumber) {
 }
 
 TEST_F(ChartVerbsTest, MessagesOfTheBuildAreReported) {
-  test::PlainBook book;
-  book.sheets.push_back(test::SalesSheet());
+  PlainBook book;
+  book.sheets.push_back(SalesSheet());
   for (int i = 0; i < 300; ++i) book.sheets[0].rows.push_back({S("East"), "P" + std::to_string(i), 1.0, 1.0});
   book_ = Write(book);
   const S said = "This chart type is limited to 254 series.\nSome data will be dropped from chart 'Chart1'.";
@@ -294,8 +287,7 @@ TEST_F(ChartVerbsTest, MessagesOfTheBuildAreReported) {
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.err, "Brindle Plotsmith: " + said + "\n");
   EXPECT_NE(Charts(out_).find("  ok\n"), S::npos);
-  const CommandResult printed = RunCommand(
-      {"new", book_, "--table", "Data1", "--type", "column", "--series", "Product", "--print-script"});
+  const CommandResult printed = Verb(Joined(arguments, {"--print-script"}));
   EXPECT_EQ(printed.code, 1);
   EXPECT_TRUE(printed.out.ends_with(
       "press cmdFinish\nexpect message \"This chart type is limited to 254 series.\\nSome "
@@ -305,7 +297,7 @@ TEST_F(ChartVerbsTest, MessagesOfTheBuildAreReported) {
 }
 
 TEST_F(ChartVerbsTest, ARunThatEndsBeforeItsPagesFails) {
-  test::PlainBook book;
+  PlainBook book;
   book.sheets.push_back({"Sheet1"});
   book_ = Write(book);
   const CommandResult result = Verb({"new", "--table", "Data1", "--type", "bar"});

@@ -150,9 +150,7 @@ TEST_F(BookCompletionTest, TheCommandListsTheContentsOfAWorkbook) {
       {{"tables"}, ""},
       {{}, ""}};
   for (const auto& [arguments, out] : cases) {
-    List line = {"complete"};
-    line.insert(line.end(), arguments.begin(), arguments.end());
-    const auto result = test::RunCommand(line);
+    const auto result = test::RunCommand(test::Joined({"complete"}, arguments));
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.out, out);
     EXPECT_EQ(result.err, "");
@@ -215,13 +213,10 @@ TEST_F(CompletionTest, EveryVerbAndOptionIsOffered) {
   }
 }
 
-TEST_F(CompletionTest, EachScriptIsValid) {
+TEST_F(CompletionTest, TheScriptForZshIsValid) {
+  if (std::system("command -v zsh >/dev/null") != 0) GTEST_SKIP() << "no zsh";
   std::ofstream(folder_ / "_plotsmith") << ZshCompletion(CommandLine());
-  const std::pair<S, S> cases[] = {{"bash", "plotsmith.bash"}, {"zsh", "_plotsmith"}};
-  for (const auto& [shell, script] : cases) {
-    if (std::system(("command -v " + shell + " >/dev/null").c_str()) != 0) GTEST_SKIP() << "no " << shell;
-    EXPECT_EQ(std::system((shell + " -n '" + (folder_ / script) + "'").c_str()), 0);
-  }
+  EXPECT_EQ(std::system(("zsh -n '" + (folder_ / "_plotsmith") + "'").c_str()), 0);
 }
 
 }  // namespace

@@ -4,9 +4,8 @@
 
 #include "runtime/Strings.h"
 #include "tests/support/Files.h"
-#include "tests/support/HostTest.h"
 #include "tests/support/PackageComplaints.h"
-#include "tests/support/RunCommand.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -15,13 +14,11 @@ using namespace test;
 using S = std::string;
 
 /// Tests the outputs of the verbs.
-class OutputTest : public ::testing::Test {
+class OutputTest : public VerbsTest {
  protected:
-  S Write(const S& name, bool macros = false) {
-    test::PlainBook book = SalesBook({{"VEX_Chart1"}});
-    const S path = folder_ / name;
-    book.Write(path);
-    if (!macros) return path;
+  S WriteSales() { return Write(SalesBook({{"VEX_Chart1"}})); }
+  S WriteWithMacros() {
+    const S path = Write(SalesBook({{"VEX_Chart1"}}), "macros.xlsm");
     auto package = xlsx::Package::Open(path);
     package.Add("/xl/vbaProject.bin", "application/vnd.ms-office.vbaProject", "macros");
     package.AddRelationship("/xl/workbook.xml",
@@ -46,38 +43,30 @@ class OutputTest : public ::testing::Test {
             {"wizard", book, "--script", script, "--show"},
             {"rename-columns", book, "--table", "Data1", "Cost=Price"}};
   }
-  test::TempFolder folder_;
 };
 
 TEST_F(OutputTest, EachWritingVerbWritesTheSameToTheStandardOutputAsToAFile) {
-  const S book = Write("book.xlsx"), file = folder_ / "file.xlsx";
+  const S book = WriteSales(), file = folder_ / "file.xlsx";
   ASSERT_EQ(RunCommand({"refresh", book}).code, 0);
-  const S before = test::BytesOf(book);
+  const S before = BytesOf(book);
   for (const std::vector<S>& verb : WritingVerbs(book)) {
-    const auto with = [&](std::vector<S> more) {
-      std::vector<S> line = verb;
-      line.insert(line.end(), more.begin(), more.end());
-      return RunCommand(line);
-    };
     SCOPED_TRACE(verb.front());
-    const CommandResult saved = with({"-o", file, "--journal"});
-    const CommandResult printed = with({"-o", "-", "--journal"});
+    const CommandResult saved = RunCommand(Joined(verb, {"-o", file, "--journal"}));
+    const CommandResult printed = RunCommand(Joined(verb, {"-o", "-", "--journal"}));
     EXPECT_LE(printed.code, 1) << printed.err;
     EXPECT_EQ(printed.code, saved.code);
-    EXPECT_EQ(printed.out, test::BytesOf(file)) << "there is no other output";
+    EXPECT_EQ(printed.out, BytesOf(file)) << "there is no other output";
     EXPECT_EQ(printed.err, saved.out + saved.err) << "the output and the messages";
-    EXPECT_EQ(test::BytesOf(book), before);
+    EXPECT_EQ(BytesOf(book), before);
     std::filesystem::remove(file);
   }
   EXPECT_FALSE(std::filesystem::exists("-"));
 }
 
 TEST_F(OutputTest, AWorkbookIsNotWrittenToATerminal) {
-  const S book = Write("book.xlsx");
+  const S book = WriteSales();
   for (const std::vector<S>& verb : WritingVerbs(book)) {
-    std::vector<S> line = verb;
-    line.insert(line.end(), {"-o", "-"});
-    const CommandResult refused = RunCommand(line, "", test::Watched::kEverything);
+    const CommandResult refused = RunCommand(Joined(verb, {"-o", "-"}), "", Watched::kEverything);
     EXPECT_EQ(refused.code, 2) << verb.front();
     EXPECT_EQ(refused.out, "");
     EXPECT_EQ(refused.err,
@@ -91,7 +80,7 @@ TEST_F(OutputTest, TheContentTypeFollowsTheExtension) {
                                    {"xltx", stem + "template.main+xml"},
                                    {"xlsm", "application/vnd.ms-excel.sheet.macroEnabled.main+xml"},
                                    {"xltm", "application/vnd.ms-excel.template.macroEnabled.main+xml"}};
-  S book = Write("book.xlsx");
+  S book = WriteSales();
   for (const auto& from : types) {
     const S source = folder_ / ("from." + from.first);
     ASSERT_EQ(RunCommand({"save", book, "-o", source}).code, 0);
@@ -100,14 +89,14 @@ TEST_F(OutputTest, TheContentTypeFollowsTheExtension) {
       const CommandResult saved = RunCommand({"refresh", source, "-o", out});
       EXPECT_EQ(saved.code, 0) << saved.err;
       EXPECT_EQ(MainType(out), to.second) << "from " << from.first;
-      EXPECT_EQ(test::PackageComplaints(out), "");
+      EXPECT_EQ(PackageComplaints(out), "");
     }
     EXPECT_EQ(MainType(source), from.second);
   }
 }
 
 TEST_F(OutputTest, UnsuitableExtensionsAreRefusedBeforeTheWork) {
-  const S plain = Write("plain.xlsx"), macros = Write("macros.xlsm", true);
+  const S plain = WriteSales(), macros = WriteWithMacros();
   const S hasMacros = "the workbook has macros, which a file with the extension ",
           hold = " can't contain; use .xlsm";
   const struct {

@@ -42,21 +42,20 @@ S FormatOf(const S& bytes) {
 class RenderTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    test::PlainBook book = test::SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
+    PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}});
     book.Sheet("Charts").frames.push_back({"", kForeignChart, 0, 40});
-    test::PlainSheet rows;
-    rows.name = "Many rows";
+    PlainSheet rows{"Many rows"};
     for (int i = 1; i <= 100; ++i) rows.rows.push_back({S("Row " + std::to_string(i)), double(i)});
     book.sheets.push_back(rows);
     book.sheets.push_back({.name = "Empty"});
     book.Write(book_);
     ASSERT_EQ(RunCommand({"refresh", book_}).code, 0);
-    fresh_ = test::BytesOf(book_);
+    fresh_ = BytesOf(book_);
   }
-  void TearDown() override { EXPECT_TRUE(test::BytesOf(book_) == fresh_) << "the workbook was changed"; }
+  void TearDown() override { EXPECT_TRUE(BytesOf(book_) == fresh_) << "the workbook was changed"; }
 
   /// Runs the command. "BOOK" is the workbook and "DIR" is an empty folder, also in the result.
-  CommandResult Run(const std::vector<S>& arguments, test::Watched watched = test::Watched::kNothing) {
+  CommandResult Run(const std::vector<S>& arguments, Watched watched = Watched::kNothing) {
     fs::remove_all(folder_ / "dir");
     fs::create_directory(folder_ / "dir");
     std::vector<S> words;
@@ -72,8 +71,7 @@ class RenderTest : public ::testing::Test {
     std::vector<S> names;
     for (const auto& entry : fs::recursive_directory_iterator(folder_ / "dir")) {
       if (!entry.is_regular_file()) continue;
-      names.push_back(entry.path().filename().string() + " " +
-                      FormatOf(test::BytesOf(entry.path().string())));
+      names.push_back(entry.path().filename().string() + " " + FormatOf(BytesOf(entry.path().string())));
     }
     std::sort(names.begin(), names.end());
     S text;
@@ -81,7 +79,7 @@ class RenderTest : public ::testing::Test {
     return text;
   }
 
-  test::TempFolder folder_;
+  TempFolder folder_;
   S book_ = folder_ / "book.xlsx";
   S fresh_;
 };
@@ -135,9 +133,7 @@ TEST_F(RenderTest, PicturesGoWhereTheOutputSays) {
       {{"BOOK", "--sheet", "Many rows", "--one-page", "-o", "DIR/rows.png"}, "rows.png png", ""},
   };
   for (const auto& c : cases) {
-    std::vector<S> arguments = c.arguments;
-    arguments.insert(arguments.begin(), "render");
-    const CommandResult result = Run(arguments);
+    const CommandResult result = Run(Joined({"render"}, c.arguments));
     EXPECT_EQ(result.code, 0) << result.err;
     EXPECT_EQ(result.err, "");
     EXPECT_EQ(Files(), c.files);
@@ -172,10 +168,10 @@ TEST_F(RenderTest, AMachineWithoutFontsIsReportedOnce) {
   for (const auto& c : cases) {
     const S folder = folder_ / "dir";
     fs::remove_all(folder);
-    const S command = c.environment + " " + test::kCommand + " render " + book_ + " " + c.arguments + " -o " +
+    const S command = c.environment + " " + kCommand + " render " + book_ + " " + c.arguments + " -o " +
                       folder + "/ > " + (folder_ / "out.txt") + " 2> " + said;
     EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), c.code) << c.arguments;
-    EXPECT_EQ(test::BytesOf(said), c.err) << c.arguments;
+    EXPECT_EQ(BytesOf(said), c.err) << c.arguments;
     EXPECT_EQ(Files(), c.files) << c.arguments;
   }
 }
@@ -229,17 +225,14 @@ TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
       {{"BOOK.no", "-o", "DIR"}, 3, "can't read \"BOOK.no\": there is no such file.\n"},
   };
   for (const auto& c : cases) {
-    std::vector<S> arguments = c.arguments;
-    arguments.insert(arguments.begin(), "render");
-    const CommandResult result = Run(arguments);
+    const CommandResult result = Run(Joined({"render"}, c.arguments));
     EXPECT_EQ(result.code, c.code);
     EXPECT_EQ(result.err, "plotsmith: " + c.sentence);
     EXPECT_EQ(result.out, "");
     EXPECT_EQ(Files(), "");
   }
-  EXPECT_EQ(
-      Run({"render", "BOOK", "VEX_Chart1", "--format", "png", "-o", "-"}, test::Watched::kEverything).err,
-      "plotsmith: a picture isn't written to a terminal; redirect the output, or name a file.\n");
+  EXPECT_EQ(Run({"render", "BOOK", "VEX_Chart1", "--format", "png", "-o", "-"}, Watched::kEverything).err,
+            "plotsmith: a picture isn't written to a terminal; redirect the output, or name a file.\n");
 }
 
 TEST_F(RenderTest, TheSameBytesComeOutOfEveryRunToFilesAndToTheStandardOutput) {
@@ -249,16 +242,14 @@ TEST_F(RenderTest, TheSameBytesComeOutOfEveryRunToFilesAndToTheStandardOutput) {
     EXPECT_EQ(FormatOf(out.out), format);
     for (int run = 0; run < 2; ++run) {
       ASSERT_EQ(Run({"render", "BOOK", "VEX_Chart1", "-o", "DIR/a." + format}).code, 0);
-      EXPECT_TRUE(test::BytesOf(folder_ / ("dir/a." + format)) == out.out) << format;
+      EXPECT_TRUE(BytesOf(folder_ / ("dir/a." + format)) == out.out) << format;
     }
   }
 }
 
 TEST_F(RenderTest, SizesFollowScaleAndResolution) {
   const auto png = [&](const std::vector<S>& options) {
-    std::vector<S> arguments = {"render", "BOOK", "VEX_Chart1", "--format", "png", "-o", "-"};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    const S bytes = Run(arguments).out;
+    const S bytes = Run(Joined({"render", "BOOK", "VEX_Chart1", "--format", "png", "-o", "-"}, options)).out;
     const auto number = [&](std::size_t at) {
       int value = 0;
       for (std::size_t i = at; i < at + 4; ++i) value = value * 256 + static_cast<unsigned char>(bytes.at(i));
@@ -275,12 +266,12 @@ TEST_F(RenderTest, SizesFollowScaleAndResolution) {
 TEST_F(RenderTest, SvgIsWellFormedAndSaysItsValues) {
   ASSERT_EQ(Run({"render", "BOOK", "-o", "DIR"}).code, 0);
   for (const auto& entry : fs::directory_iterator(folder_ / "dir")) {
-    const S bytes = test::BytesOf(entry.path().string());
+    const S bytes = BytesOf(entry.path().string());
     xmlDocPtr document =
         xmlReadMemory(bytes.data(), static_cast<int>(bytes.size()), "a.svg", nullptr, XML_PARSE_NONET);
     ASSERT_NE(document, nullptr) << bytes;
     xmlFreeDoc(document);
-    EXPECT_EQ(test::CountOf(bytes, "<title>"), test::CountOf(bytes, "</title>"));
+    EXPECT_EQ(CountOf(bytes, "<title>"), CountOf(bytes, "</title>"));
     EXPECT_NE(bytes.find("<desc>"), S::npos);
     EXPECT_NE(bytes.find("West"), S::npos) << "a category of the table";
   }
@@ -288,29 +279,28 @@ TEST_F(RenderTest, SvgIsWellFormedAndSaysItsValues) {
 
 TEST_F(RenderTest, APdfHasAPageForEachChartAndEachPageOfASheet) {
   ASSERT_EQ(Run({"render", "BOOK", "-o", "DIR/a.pdf"}).code, 0);
-  EXPECT_EQ(test::CountOf(test::BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 2u);
+  EXPECT_EQ(CountOf(BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 2u);
   ASSERT_EQ(Run({"render", "BOOK", "--sheet", "Many rows", "-o", "DIR/a.pdf"}).code, 0);
-  EXPECT_EQ(test::CountOf(test::BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 3u);
+  EXPECT_EQ(CountOf(BytesOf(folder_ / "dir/a.pdf"), "/Type /Page "), 3u);
 }
 
 TEST_F(RenderTest, AnExistingPictureIsReplacedAsAWhole) {
   const S folder = folder_ / "kept", picture = folder + "/a.svg", link = folder + "/link.svg";
   ASSERT_EQ(Run({"render", "BOOK", "VEX_Chart1", "-o", "DIR/a.svg"}).code, 0);
-  const S fresh = test::BytesOf(folder_ / "dir/a.svg");
+  const S fresh = BytesOf(folder_ / "dir/a.svg");
   fs::create_directory(folder);
   fs::create_symlink("a.svg", link);
   for (const std::size_t size : {std::size_t(0), std::size_t(1), fresh.size(), 3 * fresh.size()}) {
     std::ofstream(picture, std::ios::binary) << S(size, 'x');
     ASSERT_EQ(RunCommand({"render", book_, "VEX_Chart1", "-o", link}).code, 0);
-    EXPECT_TRUE(test::BytesOf(picture) == fresh) << size;
+    EXPECT_TRUE(BytesOf(picture) == fresh) << size;
     EXPECT_TRUE(fs::is_symlink(link)) << size;
   }
 }
 
 TEST_F(RenderTest, OnlyDefinitionsWithAChartOfTheirOwnAreDrawn) {
-  test::PlainBook book;
-  test::PlainSheet charts;
-  charts.name = "Charts";
+  PlainBook book;
+  PlainSheet charts{"Charts"};
   for (const S id : {"First", "Second", "FIRST", "Third"})
     charts.frames.push_back({id, kForeignChart, 0, 20 * static_cast<int>(charts.frames.size())});
   book.sheets.push_back(charts);
@@ -331,7 +321,7 @@ TEST_F(RenderTest, OnlyDefinitionsWithAChartOfTheirOwnAreDrawn) {
 }
 
 TEST_F(RenderTest, AWorkbookWithoutChartsOfPlotsmithNamesTheOthers) {
-  test::PlainBook book;
+  PlainBook book;
   book.sheets.push_back({.name = "It's", .frames = {{"", kForeignChart}}});
   const S path = folder_ / "other.xlsx";
   book.Write(path);
@@ -372,9 +362,7 @@ TEST_F(RenderTest, ARefreshDrawsWhatItHasRefreshed) {
        "plotsmith: --format must be svg, png or pdf, not 'gif'.\n"},
   };
   for (const auto& c : cases) {
-    std::vector<S> arguments = {"refresh", "BOOK", "-o", folder_ / "out.xlsx"};
-    arguments.insert(arguments.end(), c.options.begin(), c.options.end());
-    const CommandResult result = Run(arguments);
+    const CommandResult result = Run(Joined({"refresh", "BOOK", "-o", folder_ / "out.xlsx"}, c.options));
     EXPECT_EQ(result.code, c.code);
     EXPECT_EQ(result.err, c.err);
     EXPECT_EQ(Files(), c.files);
@@ -395,7 +383,7 @@ TEST_F(RenderTest, ARefreshDrawsWhatItHasRefreshed) {
 
 TEST_F(RenderTest, WithoutTheModuleThatDrawsTheCommandSaysSo) {
   fs::create_directory(folder_ / "bin");
-  fs::copy_file(test::kCommand, folder_ / "bin/plotsmith");
+  fs::copy_file(kCommand, folder_ / "bin/plotsmith");
   const S err = folder_ / "err.txt";
   struct Case {
     const char *format, *module;
@@ -405,8 +393,8 @@ TEST_F(RenderTest, WithoutTheModuleThatDrawsTheCommandSaysSo) {
                                     test.format + " -o " + folder_.Path().string() + " 2> " + err)
                                        .c_str());
     EXPECT_EQ(WEXITSTATUS(status), 2) << test.format;
-    EXPECT_EQ(test::BytesOf(err), "plotsmith: nothing can be drawn: \"" + (folder_ / "lib/plotsmith/") +
-                                      test.module + "\", which draws, isn't installed.\n");
+    EXPECT_EQ(BytesOf(err), "plotsmith: nothing can be drawn: \"" + (folder_ / "lib/plotsmith/") +
+                                test.module + "\", which draws, isn't installed.\n");
   }
 }
 

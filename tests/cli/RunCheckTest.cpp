@@ -1,13 +1,11 @@
 #include <gtest/gtest.h>
-#include <iterator>
 #include <nlohmann/json.hpp>
 #include <vector>
 
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/Files.h"
-#include "tests/support/HostTest.h"
-#include "tests/support/RunCommand.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -21,28 +19,21 @@ const S kDrawingPart = "/xl/drawings/drawing2.xml";
 const S kChartPart = "/xl/charts/chart1.xml";
 
 /// Tests the messages on stderr with which writing commands report what happens to a person's work.
-class RunCheckTest : public ::testing::Test {
+class RunCheckTest : public VerbsTest {
  protected:
-  S Write(const PlainBook& book) {
-    book.Write(path_);
-    return path_;
-  }
   /// Writes a workbook with these texts in the rows of the definitions, and with a chart for VEX_Chart1.
-  S WriteRows(const List& rows) {
+  void WriteRows(const List& rows) {
     PlainBook book = SalesBook({{"VEX_Chart1"}});
     book.sheets.pop_back();
     book.AddDefinitions(rows);
-    return Write(book);
+    Write(book);
   }
   /// Runs a refresh and checks that its exit code fits to its messages.
   S Refresh(const List& options = {}) {
-    List arguments = {"refresh", path_};
-    arguments.insert(arguments.end(), options.begin(), options.end());
-    const CommandResult result = RunCommand(arguments);
+    const CommandResult result = RunCommand(Joined({"refresh", path_}, options));
     EXPECT_EQ(result.code, result.err.empty() ? 0 : 1) << result.err;
     return result.err;
   }
-  S Charts() { return RunCommand({"charts", path_}).out; }
   void Edit(const S& part, const S& from, const S& to) {
     EditPart(path_, part, [&](S& text) {
       ASSERT_NE(text.find(from), S::npos) << from;
@@ -54,8 +45,7 @@ class RunCheckTest : public ::testing::Test {
     return "plotsmith: \"" + path_ + "\" has no charts of Plotsmith, so nothing was refreshed.\n";
   }
 
-  test::TempFolder folder_;
-  S path_ = folder_ / "book.xlsx";
+  const S path_ = folder_ / "book.xlsx";
 };
 
 const S kStray =
@@ -88,8 +78,7 @@ TEST_F(RunCheckTest, NothingIsWrittenIfADefinitionWouldBeLost) {
        0}};
   for (const auto& row : cases) {
     WriteRows(row.rows);
-    const S before = test::BytesOf(path_),
-            line = "plotsmith: VEX_ChartDefinitions!" + row.place + row.sentence;
+    const S before = BytesOf(path_), line = "plotsmith: VEX_ChartDefinitions!" + row.place + row.sentence;
     for (const List& verb : {List{"refresh", path_}, List{"delete", path_, "VEX_Chart1"},
                              List{"new", path_, "--table", "Data1", "--type", "pie"},
                              List{"rename-columns", path_, "--table", "Data1", "Amount=Sum"},
@@ -100,12 +89,12 @@ TEST_F(RunCheckTest, NothingIsWrittenIfADefinitionWouldBeLost) {
                 line +
                     ".\nplotsmith: nothing was changed, because 1 definition would be lost; correct "
                     "this, or use --drop-broken.\n");
-      EXPECT_EQ(test::BytesOf(path_), before) << verb[0];
+      EXPECT_EQ(BytesOf(path_), before) << verb[0];
     }
     const S noCharts = row.charts == 0 ? kStray + NothingToRefresh() : "";
     EXPECT_EQ(Refresh({"--drop-broken"}), line + "; the row was dropped.\n" + noCharts);
     EXPECT_EQ(RunCommand({"check", path_}).code, 1 - row.charts) << RunCommand({"check", path_}).out;
-    EXPECT_EQ(Charts().find("VEX_Chart1") != S::npos, row.charts == 1) << Charts();
+    EXPECT_EQ(Charts(path_).find("VEX_Chart1") != S::npos, row.charts == 1) << Charts(path_);
     EXPECT_EQ(Refresh(), noCharts);
   }
 }
@@ -118,7 +107,7 @@ TEST_F(RunCheckTest, AMissingDrawnChartLosesItsDefinition) {
       Refresh(),
       Line("No chart has the alternative text 'VEX_Chart1'; there are charts with 'Mine' and 'VEX_Chart2'; "
            "the chart was drawn and no longer exists, so its definition was removed."));
-  EXPECT_TRUE(Charts().starts_with("VEX_Chart2")) << Charts();
+  EXPECT_TRUE(Charts(path_).starts_with("VEX_Chart2")) << Charts(path_);
   EXPECT_EQ(Refresh(), "");
 }
 
@@ -144,7 +133,7 @@ TEST_F(RunCheckTest, AGroupedChartIsNotLost) {
 TEST_F(RunCheckTest, UnreadRowsAndUnknownNamesAreReported) {
   Definition odd{"VEX_Chart1"};
   odd.attributes += " colour=\"red\"";
-  odd.rest = test::Settings({"staked"});
+  odd.rest = Settings({"staked"});
   WriteRows({"Notes", odd.Xml(), "", odd.Xml()});
   const S settings = "A column chart has no setting 'staked'; it can have 3D, stacked and 100%.";
   const S colour =
@@ -170,7 +159,7 @@ TEST_F(RunCheckTest, ChangesOfDefinitionsAndOfChartsAreDistinguished) {
   Definition definition{"VEX_Chart1"};
   definition.rest = "<axes><axis type=\"value\" label=\"Euro\" sticky=\"no\"/></axes>";
   PlainBook book = SalesBook({definition});
-  book.sheets.push_back(test::SalesSheet("Data2"));
+  book.sheets.push_back(SalesSheet("Data2"));
   Write(book);
   EXPECT_EQ(Refresh(), "");
   EXPECT_EQ(Refresh(), "") << "a drawn chart is read back as it was stored";
@@ -269,7 +258,7 @@ TEST_F(RunCheckTest, CellsThatMakeAWrongPictureAreReported) {
             Line(start + "the text '5 pcs', which counts as 0.", "Data1!C3"));
   const S said = start + "the error #N/A, which counts as 0.";
   EXPECT_EQ(refresh([&](Rows& rows) { rows[4][2] = error; }), Line(said, "Data1!C5"));
-  EXPECT_NE(Charts().find("  ok\n    Data1!C5: " + said + "\n"), S::npos) << Charts();
+  EXPECT_NE(Charts(path_).find("  ok\n    Data1!C5: " + said + "\n"), S::npos) << Charts(path_);
   Definition forgotten;
   forgotten.values = "";
   EXPECT_EQ(refresh([](Rows&) {}, forgotten),
@@ -313,7 +302,7 @@ TEST_F(RunCheckTest, APossiblyRenamedColumnIsReported) {
   EXPECT_NE(taken.find("; it has Region, Product, Product and Cost.\n"), S::npos)
       << taken << "a column that the chart already has isn't a new name";
 
-  test::Definition other{"VEX_Chart2"};
+  Definition other{"VEX_Chart2"};
   other.values = "<values><column name=\"Cost\"/></values>";
   Write(SalesBook({{"VEX_Chart1"}, other}));
   EXPECT_EQ(Refresh(), "");
@@ -335,13 +324,12 @@ TEST_F(RunCheckTest, ABubbleWithoutALabelPreventsTheLegend) {
        "in the cell"},
       {"g|x", "a label here with the character '|', so the chart has no drawn legend; remove the character"}};
   for (const auto& [label, sentence] : cases) {
-    Write(test::BubbleBook(
-        {{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"C", "h", 1, 1, 1}, {"c", label, 3, 4, 5}},
-        test::BubbleDefinition()));
+    Write(BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"C", "h", 1, 1, 1}, {"c", label, 3, 4, 5}},
+                     BubbleDefinition()));
     EXPECT_EQ(Refresh(), Line(start + sentence + again, "Data1!B5"));
     EXPECT_EQ(Refresh({"--host-version", "11"}), "") << "this version uses the chart's own legend";
   }
-  PlainBook plain = test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition());
+  PlainBook plain = BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, BubbleDefinition());
   plain.Sheet("VEX_ChartDefinitions").rows.resize(1);
   plain.Sheet("Charts").frames.clear();
   Write(plain);
@@ -350,17 +338,16 @@ TEST_F(RunCheckTest, ABubbleWithoutALabelPreventsTheLegend) {
   EXPECT_EQ(made.code, 1);
   EXPECT_NE(made.err.find("Data1!B3 (chart"), S::npos)
       << made.err << "its definition has no numbers of columns yet";
-  Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, test::BubbleDefinition()));
+  Write(BubbleBook({{"a", "g", 1, 2, 3}, {"b", "", 2, 3, 4}}, BubbleDefinition()));
   Edit("/xl/worksheets/sheet1.xml", "Size", "Weight");
   EXPECT_EQ(Refresh().find("Data1!B3"), S::npos) << "a chart that can't be drawn has other problems";
-  Write(test::BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"c", "g|h", 3, 4, 5}},
-                         test::BubbleDefinition()));
+  Write(BubbleBook({{"a", "g", 1, 2, 3}, {"b", "h", 2, 3, 4}, {"c", "g|h", 3, 4, 5}}, BubbleDefinition()));
   EXPECT_EQ(Refresh(), "") << "each piece has a colour";
 }
 
 TEST_F(RunCheckTest, TooManyBucketsAreReported) {
   const auto write = [&](int count) {
-    PlainBook book = test::BucketBook(test::BucketDefinition());
+    PlainBook book = BucketBook(BucketDefinition());
     auto& rows = book.Sheet("Buckets").rows;
     rows.resize(3);
     for (int i = 1; i <= count; ++i) rows.push_back({"b" + std::to_string(i), 1.0 * i});
@@ -400,7 +387,7 @@ TEST_F(RunCheckTest, TooManyBucketsAreReported) {
   const CommandResult mended = RunCommand({"modify", path_, "VEX_Chart1", "--type", "strategic bucket"});
   EXPECT_EQ(mended.code, 0) << mended.err;
   EXPECT_EQ(Refresh(), "");
-  EXPECT_NE(Charts().find("strategic bucket chart"), S::npos) << Charts();
+  EXPECT_NE(Charts(path_).find("strategic bucket chart"), S::npos) << Charts(path_);
 }
 
 TEST_F(RunCheckTest, AmbiguousChartsPreventNewAndDeletedCharts) {
@@ -424,13 +411,13 @@ TEST_F(RunCheckTest, AmbiguousChartsPreventNewAndDeletedCharts) {
   const std::pair<PlainBook, S> cases[] = {{bare, kStray}, {twice, second}, {gap, unread}};
   for (const auto& [book, said] : cases) {
     Write(book);
-    const S before = test::BytesOf(path_);
+    const S before = BytesOf(path_);
     for (const List& verb : {List{"new", path_, "--table", "Data1", "--type", "pie"},
                              List{"delete", path_, "VEX_Chart1"}, List{"wizard", path_, "--script", "-"}}) {
       const CommandResult refused = RunCommand(verb);
       EXPECT_EQ(refused.code, 3) << said;
       EXPECT_EQ(refused.err, said + drop);
-      EXPECT_EQ(test::BytesOf(path_), before);
+      EXPECT_EQ(BytesOf(path_), before);
     }
     EXPECT_EQ(Refresh(), said + (said == kStray ? NothingToRefresh() : ""));
   }
@@ -438,7 +425,7 @@ TEST_F(RunCheckTest, AmbiguousChartsPreventNewAndDeletedCharts) {
 
 TEST_F(RunCheckTest, AWorkbookWithoutDefinitionsHasNoOtherMessages) {
   PlainBook book;
-  book.sheets.push_back(test::SalesSheet("Sheet1"));
+  book.sheets.push_back(SalesSheet("Sheet1"));
   book.sheets[0].rows[1][2] = RawCell{"><f>1+1</f><v></v></c>"};
   book.sheets[0].frames = {{"", "", 0, 0, 8, 18}, {"VEX_Table1"}};
   Write(book);

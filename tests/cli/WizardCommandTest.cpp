@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "tests/support/Files.h"
-#include "tests/support/WizardVerbsTest.h"
+#include "tests/support/VerbsTest.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -13,47 +13,7 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class WizardCommandTest : public test::WizardVerbsTest {};
-
-TEST_F(WizardCommandTest, ARunThatBuildsAChartIsSaved) {
-  const S book = Write(test::PlainSales());
-  const CommandResult result = Wizard(book, R"(
-# the first chart of a workbook
-page frmPSSelectTable
-select grdTables Data1
-choose optType(1)
-press cmdNext
-page frmPSLayoutABC
-type txtTitle "Sales by region"
-choose optSeries(1)
-choose cboSeries Product
-press cmdFinish
-page none
-)");
-  EXPECT_EQ(result.code, 0);
-  EXPECT_EQ(result.out + result.err, "");
-  EXPECT_EQ(
-      Charts(book),
-      "VEX_Chart1  \"Sales by region\"\n  column chart on sheet Data1, from table Data1 on sheet Data1\n  "
-      "ok\n");
-  EXPECT_EQ(RunCommand({"cells", book, "VEX_ChartData!A1:D3"}).out,
-            "VEX_Chart1\t\tWidget\tGadget\nVEX_Chart1\tEast\t11\t7\nVEX_Chart1\tWest\t5\t\n");
-}
-
-TEST_F(WizardCommandTest, ARunThatDeletesAChartIsSaved) {
-  const S book = Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}}));
-  const CommandResult result = Wizard(book, R"(
-select grdCharts "Name of VEX_Chart1"
-answer ok
-press cmdDelete
-expect question "Are you sure you want to delete this chart?\n\nClick 'OK' to delete or 'Cancel' to abort."
-page frmPSSelectAction
-expect grdCharts.Rows 2
-)");
-  EXPECT_EQ(result.code, 0) << result.err;
-  EXPECT_EQ(Charts(book).find("VEX_Chart1"), S::npos);
-  EXPECT_NE(Charts(book).find("VEX_Chart2"), S::npos);
-}
+class WizardCommandTest : public VerbsTest {};
 
 TEST_F(WizardCommandTest, NothingElseIsSaved) {
   const struct {
@@ -82,13 +42,13 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
        "or 'Cancel' to abort.' has no answer; a line 'answer ok' or 'answer cancel' gives it in advance.\n"},
   };
   const S book = Write(SalesBook({{"VEX_Chart1"}}));
-  const S before = test::BytesOf(book), out = folder_ / "out.xlsx";
+  const S before = BytesOf(book), out = folder_ / "out.xlsx";
   for (const auto& item : cases) {
     for (const std::vector<S>& more : {std::vector<S>{}, {"-o", out}, {"--host-version", "11"}}) {
       const CommandResult result = Wizard(book, item.script, more);
       EXPECT_EQ(result.code, item.code) << item.name;
       EXPECT_EQ(result.err, item.err) << item.name;
-      EXPECT_EQ(test::BytesOf(book), before) << item.name;
+      EXPECT_EQ(BytesOf(book), before) << item.name;
       EXPECT_FALSE(std::filesystem::exists(out)) << item.name;
     }
   }
@@ -96,7 +56,7 @@ TEST_F(WizardCommandTest, NothingElseIsSaved) {
 
 TEST_F(WizardCommandTest, TheScriptMustExpectTheWizardsMessages) {
   const S empty = [&] {
-    test::PlainBook book;
+    PlainBook book;
     book.sheets.push_back({"Sheet1"});
     return Write(book, "empty.xlsx");
   }();
@@ -108,7 +68,7 @@ TEST_F(WizardCommandTest, TheScriptMustExpectTheWizardsMessages) {
 }
 
 TEST_F(WizardCommandTest, PagesDoNotNestWithoutEnd) {
-  const S book = Write(test::PlainSales());
+  const S book = Write(PlainSales());
   const S start = "select grdTables Data1\nchoose optType(1)\n";
   const auto forthAndBack = [](int times) {
     S lines;
@@ -123,7 +83,7 @@ TEST_F(WizardCommandTest, PagesDoNotNestWithoutEnd) {
 }
 
 TEST_F(WizardCommandTest, PagesAreShown) {
-  const S book = Write(test::PlainSales());
+  const S book = Write(PlainSales());
   const CommandResult shown =
       Wizard(book, "select grdTables Data1\nshow\nchoose optType(3)\npress cmdNext", {"--show"});
   EXPECT_TRUE(

@@ -9,7 +9,6 @@
 #include "common/Worksheets.h"
 #include "common/YieldToHost.h"
 #include "controller/System.h"
-#include "metadata/MetadataStore.h"
 #include "tests/support/HandView.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Worksheet.h"
@@ -103,15 +102,9 @@ TEST_F(CommonFunctionsTest, SampleNumbers) {
 }
 
 /// A desktop whose clock is set by the test.
-class ClockDesktop : public desktop::Desktop {
+class ClockDesktop : public cli::ConsoleDesktop {
  public:
-  std::int32_t MsgBox(std::string_view, desktop::Buttons, desktop::Icon, std::string_view) override {
-    return 1;
-  }
-  void ShowHelp(std::intptr_t, const std::string&, std::int32_t) override {}
   double Timer() override { return now; }
-  void SetMousePointer(std::int32_t) override {}
-  std::int32_t UserDefaultLCID() override { return 1033; }
   double now = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "cli/ConsoleDesktop.h"
 #include "common/App.h"
 #include "common/Intl.h"
 #include "forms/Plain.h"
@@ -15,14 +16,8 @@ namespace {
 using S = std::string;
 
 /// A desktop with a locale that the test chooses.
-class LocaleDesktop : public desktop::Desktop {
+class LocaleDesktop : public cli::ConsoleDesktop {
  public:
-  std::int32_t MsgBox(std::string_view, desktop::Buttons, desktop::Icon, std::string_view) override {
-    return desktop::kOk;
-  }
-  void ShowHelp(std::intptr_t, const std::string&, std::int32_t) override {}
-  double Timer() override { return 0; }
-  void SetMousePointer(std::int32_t) override {}
   std::int32_t UserDefaultLCID() override { return lcid; }
   std::int32_t lcid = 0;
 };

@@ -18,10 +18,10 @@ using namespace test;
 using S = std::string;
 
 /// Runs the wizard with a simulated user that requests moves, like the buttons of the pages.
-class NavigationTest : public test::HostTest {
+class NavigationTest : public HostTest {
  protected:
   NavigationTest() { StartSystem(desktop_, view_); }
-  S Run(std::vector<test::HandView::Gesture> gestures) {
+  S Run(std::vector<HandView::Gesture> gestures) {
     view_->log.clear();
     view_->gestures = std::move(gestures);
     CPlotsmithController().RunPlotsmith(host_, "Host", "help.chm");
@@ -41,11 +41,10 @@ class NavigationTest : public test::HostTest {
       PSJumpToStep(step::kNext, origin::kSelectAction, &dynamic_cast<Page&>(front));
     };
   }
-  std::shared_ptr<test::HandView> view_ = std::make_shared<test::HandView>();
+  std::shared_ptr<HandView> view_ = std::make_shared<HandView>();
 };
 
 const S kAction = "show frmPSSelectAction; close frmPSSelectAction; ";
-const S kTable = "show frmPSSelectTable; close frmPSSelectTable; ";
 const S kAbc = "show frmPSLayoutABC; close frmPSLayoutABC; ";
 const S kLocation = "show frmPSChartLocation; close frmPSChartLocation; ";
 
@@ -120,23 +119,7 @@ TEST_F(NavigationTest, MessagesAndErrors) {
   EXPECT_FALSE(bRunAborted);
 }
 
-TEST_F(NavigationTest, OpeningWithoutChartsOrTables) {
-  PlainBook bare;
-  bare.sheets = {test::SalesSheet("Sheet1")};
-  Open(bare);
-  EXPECT_EQ(Run({}), "");
-  EXPECT_EQ(Messages(),
-            std::vector<S>{
-                "Brindle Plotsmith: This workbook contains no tables. You must create one in order to run "
-                "the Plotsmith."});
-  EXPECT_FALSE(colTables);
-  bare.sheets = {test::SalesSheet("Data1")};
-  Open(bare);
-  EXPECT_EQ(Run({}), kTable);
-  EXPECT_EQ(lMethodType, 0);
-}
-
-class EntryTest : public test::HostTest {};
+class EntryTest : public HostTest {};
 
 TEST_F(EntryTest, GuardsReportInOrder) {
   PlainBook book = SalesBook({});
@@ -248,8 +231,8 @@ TEST_F(EntryTest, AChartSheetInFrontDoesNotStopARefresh) {
   book.sheets.push_back({"Front", {}, 1, 1, "", {{"somebody's", ""}}});
   book.workbookExtra = "<bookViews><workbookView activeTab=\"3\"/></bookViews>";
   book.Write(folder_ / "front.xlsx");
-  test::EditPart(folder_ / "front.xlsx", "/xl/_rels/workbook.xml.rels",
-                 [](S& links) { links.replace(links.rfind("/worksheet\""), 11, "/chartsheet\""); });
+  EditPart(folder_ / "front.xlsx", "/xl/_rels/workbook.xml.rels",
+           [](S& links) { links.replace(links.rfind("/worksheet\""), 11, "/chartsheet\""); });
   OpenFile(folder_ / "front.xlsx");
   ASSERT_TRUE(host_->ActiveChart());
   Refresh();
@@ -258,8 +241,7 @@ TEST_F(EntryTest, AChartSheetInFrontDoesNotStopARefresh) {
   EXPECT_EQ(journal_.back(), "Application.Run(\"VEXEvents.VEXChartRefreshComplete\")");
   EXPECT_FALSE(colCharts) << "the run has ended";
   // A chart that can't be read isn't the active chart and doesn't affect others.
-  test::EditPart(folder_ / "front.xlsx", "/xl/worksheets/_rels/sheet4.xml.rels",
-                 [](S& links) { links += "<"; });
+  EditPart(folder_ / "front.xlsx", "/xl/worksheets/_rels/sheet4.xml.rels", [](S& links) { links += "<"; });
   OpenFile(folder_ / "front.xlsx");
   EXPECT_FALSE(host_->ActiveChart());
   Refresh();

@@ -107,12 +107,7 @@ TEST(DomTest, NodesMoveBetweenTreesAndOut) {
 TEST(DomTest, NothingIsError91) {
   const IXMLDOMElement nothing = IXMLDOMDocument2::Create().selectSingleNode("chart");
   EXPECT_FALSE(nothing);
-  try {
-    static_cast<void>(nothing.getAttribute("id"));
-    FAIL();
-  } catch (const runtime::RuntimeError& e) {
-    EXPECT_EQ(e.Number(), runtime::error::kObjectNotSet);
-  }
+  EXPECT_EQ(test::ErrorOf([&] { nothing.getAttribute("id"); }), runtime::error::kObjectNotSet);
 }
 
 TEST(DomTest, NoDocumentIsError91) {

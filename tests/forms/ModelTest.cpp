@@ -1,4 +1,3 @@
-#include <deque>
 #include <functional>
 #include <gtest/gtest.h>
 #include <pthread.h>
@@ -7,6 +6,7 @@
 #include "forms/Timer.h"
 #include "runtime/RuntimeError.h"
 #include "tests/support/ErrorOf.h"
+#include "tests/support/HandView.h"
 #include "tests/support/SmallForm.h"
 
 namespace plotsmith::forms {
@@ -192,32 +192,20 @@ TEST(ModelTest, UserActionsMoveTheFocusAndRaiseEvents) {
   for (const Rule& rule : rules) EXPECT_EQ(EventsOf(rule), rule.events) << rule.name;
 }
 
-/// A view that posts a prepared action on the front form at each wait, and closes the form when none is left.
-class PreparedView final : public View {
+/// A view in which each yield checks a box on these forms, whether they are in front or not.
+class TogglingView final : public test::HandView {
  public:
-  void Open(Form& form) override { open_.push_back(&form); }
-  void Close(Form&) override { open_.pop_back(); }
-  void Wait(EventQueue& queue, std::optional<std::chrono::milliseconds>) override {
-    Form* const front = open_.back();
-    if (gestures.empty()) return queue.Post(*front, [front] { front->UserClose(); });
-    const auto gesture = gestures.front();
-    gestures.pop_front();
-    queue.Post(*front, [front, gesture] { gesture(static_cast<SmallForm&>(*front)); });
-  }
   void HandleEvents(EventQueue& queue) override {
-    for (Form* form : open_)
-      queue.Post(*form, [form] { static_cast<SmallForm&>(*form).chk3D.UserToggle(true); });
+    for (SmallForm* form : forms) queue.Post(*form, [form] { form->chk3D.UserToggle(true); });
   }
-
-  std::deque<std::function<void(SmallForm&)>> gestures;
-
- private:
-  std::vector<Form*> open_;
+  std::vector<SmallForm*> forms;
 };
+
+void PressOK(Form& form) { dynamic_cast<SmallForm&>(form).cmdOK.UserPress(); }
 
 class ModalLoopTest : public ::testing::Test {
  protected:
-  std::shared_ptr<PreparedView> view_ = std::make_shared<PreparedView>();
+  std::shared_ptr<TogglingView> view_ = std::make_shared<TogglingView>();
   ModalLoop loop_{view_};
   Log log_;
   std::shared_ptr<SmallForm> form_ = std::make_shared<SmallForm>(log_);
@@ -257,7 +245,7 @@ TEST_F(ModalLoopTest, AFormMayBeReleasedInItsOwnEvent) {
     loop_.ShowModal(form_);
     EXPECT_FALSE(first.expired()) << "its event is still running";
   };
-  view_->gestures = {[](auto& form) { form.UserEnter(); }, [](auto& form) { form.UserEscape(); }};
+  view_->gestures = {[](Form& form) { form.UserEnter(); }, [](Form& form) { form.UserEscape(); }};
   loop_.ShowModal(form_);
   EXPECT_TRUE(first.expired());
   EXPECT_EQ(form_->Name(), "frmSecond");
@@ -274,7 +262,7 @@ TEST_F(ModalLoopTest, AnErrorPassesThroughNestedForms) {
     throw runtime::RuntimeError(91);
   };
   second->OnOK = [] { throw runtime::RuntimeError(9); };
-  view_->gestures = {[](auto& form) { form.cmdOK.UserPress(); }, [](auto& form) { form.cmdOK.UserPress(); }};
+  view_->gestures = {PressOK, PressOK};
   EXPECT_EQ(test::ErrorOf([&] { loop_.ShowModal(form_); }), 91);
   EXPECT_EQ(log_.back(), "error 9");
   EXPECT_FALSE(form_->Visible());
@@ -288,8 +276,8 @@ TEST_F(ModalLoopTest, AFormNestedInAnotherOneLeavesItAsItWas) {
     loop_.ShowModal(second);
     log_.push_back("back");
   };
-  view_->gestures = {[](auto& form) { form.cmdOK.UserPress(); }, [](auto& form) { form.UserClose(); },
-                     [](auto& form) { form.chk3D.UserToggle(true); }};
+  view_->gestures = {PressOK, [](Form& form) { form.UserClose(); },
+                     [this](Form&) { form_->chk3D.UserToggle(true); }};
   loop_.ShowModal(form_);
   EXPECT_EQ(log_, (Log{"load", "activate", "txtTitle got-focus", "txtTitle validate", "cmdOK got-focus",
                        "cmdOK click", "load", "activate", "txtTitle got-focus", "unload", "back",
@@ -300,24 +288,12 @@ TEST_F(ModalLoopTest, GesturesOnAFormBelowAreDropped) {
   const auto second = std::make_shared<SmallForm>(log_, "frmSecond");
   second->OnActivate = [&] { loop_.DoEvents(); };
   form_->OnOK = [&] { loop_.ShowModal(second); };
-  view_->gestures = {[](auto& form) { form.UserEnter(); }};
+  view_->forms = {form_.get(), second.get()};
+  view_->gestures = {PressOK};
   loop_.ShowModal(form_);
   EXPECT_EQ(form_->chk3D.Value(), CheckBox::kUnchecked);
   EXPECT_EQ(second->chk3D.Value(), CheckBox::kChecked);
 }
-
-/// A view whose user presses OK on every form.
-class PressingView final : public View {
-  void Open(Form& form) override { open_.push_back(&form); }
-  void Close(Form&) override { open_.pop_back(); }
-  void Wait(EventQueue& queue, std::optional<std::chrono::milliseconds>) override {
-    auto& form = dynamic_cast<SmallForm&>(*open_.back());
-    queue.Post(form, [&form] { form.cmdOK.UserPress(); });
-  }
-  void HandleEvents(EventQueue&) override {}
-
-  std::vector<Form*> open_;
-};
 
 /// Calls a function on a thread with a stack of this size in bytes.
 void CallWithStackOf(std::size_t size, std::function<void()> function) {
@@ -335,7 +311,6 @@ void CallWithStackOf(std::size_t size, std::function<void()> function) {
 }
 
 TEST_F(ModalLoopTest, FormsNestAsLongAsTheStackLasts) {
-  ModalLoop loop(std::make_shared<PressingView>());
   int forms = 0;
   std::vector<int> errors;
   std::function<void()> show = [&] {
@@ -345,13 +320,14 @@ TEST_F(ModalLoopTest, FormsNestAsLongAsTheStackLasts) {
       self->Unload();
       show();
     };
-    if (const int error = test::ErrorOf([&] { loop.ShowModal(form); })) errors.push_back(error);
+    view_->gestures = {PressOK};
+    if (const int error = test::ErrorOf([&] { loop_.ShowModal(form); })) errors.push_back(error);
   };
   CallWithStackOf(ModalLoop::kStackOfForm + std::size_t{128} * 1024, show);
   EXPECT_EQ(errors, std::vector<int>{28});
   EXPECT_GT(forms, 5);
   EXPECT_LT(forms, static_cast<int>(ModalLoop::kMostForms));
-  EXPECT_EQ(loop.Front(), nullptr);
+  EXPECT_EQ(loop_.Front(), nullptr);
 }
 
 /// A form with a timer that ticks twice during the form's work, and closes the form at the second tick after

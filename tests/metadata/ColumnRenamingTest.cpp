@@ -9,7 +9,7 @@ namespace {
 
 using namespace test;
 
-class ColumnRenamingTest : public test::HostTest {};
+class ColumnRenamingTest : public HostTest {};
 
 TEST_F(ColumnRenamingTest, DefinitionsFollowRenamedColumns) {
   const std::string axes =

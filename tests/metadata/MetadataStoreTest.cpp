@@ -14,7 +14,7 @@ namespace {
 
 using namespace test;
 
-class MetadataStoreTest : public test::HostTest {
+class MetadataStoreTest : public HostTest {
  protected:
   void Load() {
     RetrieveTableDefinitions();
@@ -60,7 +60,7 @@ TEST_F(MetadataStoreTest, ADefinitionIsStoredInItsCurrentRow) {
 TEST_F(MetadataStoreTest, UnusableRowsAreRemovedAndTheOthersKeepTheirOrder) {
   PlainBook book = SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}, {"VEX_Chart3"}});
   auto& rows = book.Sheet("VEX_ChartDefinitions").rows;
-  using Row = test::PlainRow;
+  using Row = PlainRow;
   const std::vector<Row> old = rows;
   // Not XML; no chart in the workbook; a second row with an id; no chart element; no id, beside a foreign
   // chart without alternative text.
@@ -86,7 +86,7 @@ TEST_F(MetadataStoreTest, UnusableRowsAreRemovedAndTheOthersKeepTheirOrder) {
 
 TEST_F(MetadataStoreTest, AMissingSheetIsAddedAndTheActiveSheetStays) {
   PlainBook book;
-  book.sheets = {test::SalesSheet(), test::SalesSheet("Second")};
+  book.sheets = {SalesSheet(), SalesSheet("Second")};
   book.workbookExtra = "<bookViews><workbookView activeTab=\"1\"/></bookViews>";
   Open(book);
   Load();
@@ -102,7 +102,7 @@ TEST_F(MetadataStoreTest, AMissingSheetIsAddedAndTheActiveSheetStays) {
 
 TEST_F(MetadataStoreTest, ProtectedStructureGivesNoSheet) {
   PlainBook book;
-  book.sheets = {test::SalesSheet()};
+  book.sheets = {SalesSheet()};
   book.workbookExtra = "<workbookProtection lockStructure=\"1\"/>";
   Open(book);
   Load();
@@ -117,7 +117,7 @@ TEST_F(MetadataStoreTest, FollowsChartsAndTablesAndMarksMissingOnes) {
        {"VEX_Chart2", "column", "table-id=\"Gone\""},
        {"VEX_Chart3", "column", "table-id=\"VEX_TableRange1\""},
        {"VEX_Chart4", "strategic bucket", "table-id=\"Data1\" strategic-bucket-table-id=\"Data1\""}});
-  test::PlainSheet emptied{"Emptied"};
+  PlainSheet emptied{"Emptied"};
   emptied.rows = {{std::string("Title")}, {}, {std::string("A"), std::string("B")}};
   book.sheets.push_back(emptied);
   book.names = {{"VEX_TableRange1", "Emptied!$A$1:$B$3"}};
@@ -165,7 +165,7 @@ TEST_F(MetadataStoreTest, SaveReplacesARowOrAppendsOne) {
 
 TEST_F(MetadataStoreTest, ThePaletteIsSetOnceAndOnlyWithoutCharts) {
   PlainBook plain;
-  plain.sheets = {test::SalesSheet()};
+  plain.sheets = {SalesSheet()};
   Open(plain);
   Load();
   const std::int32_t colors[] = {

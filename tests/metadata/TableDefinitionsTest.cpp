@@ -11,7 +11,7 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class TableDefinitionsTest : public test::HostTest {
+class TableDefinitionsTest : public HostTest {
  protected:
   std::string Ids() {
     RetrieveTableDefinitions();
@@ -34,8 +34,7 @@ class TableDefinitionsTest : public test::HostTest {
 
 /// Returns a sheet with title, blank row, headings and two data rows, beginning at B3.
 PlainSheet RangeSheet(const std::string& name) {
-  PlainSheet sheet;
-  sheet.name = name;
+  PlainSheet sheet{name};
   sheet.top = 3;
   sheet.left = 2;
   sheet.rows = {{S("Investments")},
@@ -79,7 +78,7 @@ TEST_F(TableDefinitionsTest, NamesThatAreNoTables) {
   // a name that belongs to one sheet: VEX_SBold!Print_Area
   const std::string path = folder_ / "names.xlsx";
   book.Write(path);
-  test::EditPart(path, "/xl/workbook.xml", [](std::string& workbook) {
+  EditPart(path, "/xl/workbook.xml", [](std::string& workbook) {
     workbook.insert(
         workbook.find("</definedNames>"),
         "<definedName name=\"_xlnm.Print_Area\" localSheetId=\"1\">VEX_SBold!$B$3:$C$7</definedName>");
@@ -93,8 +92,7 @@ TEST_F(TableDefinitionsTest, NamesThatAreNoTables) {
 
 TEST_F(TableDefinitionsTest, DataSheetsByTheirExactNames) {
   PlainBook book;
-  book.sheets = {test::SalesSheet("Data3"), test::SalesSheet("data1"), test::SalesSheet("Data6"),
-                 PlainSheet{"Data2"}};
+  book.sheets = {SalesSheet("Data3"), SalesSheet("data1"), SalesSheet("Data6"), PlainSheet{"Data2"}};
   book.sheets[3].rows = {{S("Heading"), S("only")}};
   Open(book);
   EXPECT_EQ(Ids(), "Data3 ");

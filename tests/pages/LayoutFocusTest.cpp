@@ -7,7 +7,7 @@ using namespace test;
 using S = std::string;
 
 /// Tests what depends on the focus on layout pages: the marked frame, the axis boxes, the default button.
-class LayoutFocusTest : public test::PagesTest {};
+class LayoutFocusTest : public PagesTest {};
 
 constexpr int kBar = 0, kColumn = 1, kPie = 3, kBubble = 4, kBucket = 5;
 

@@ -7,7 +7,7 @@ using namespace test;
 using S = std::string;
 
 /// Tests that layout pages read what they have written.
-class RoundTripTest : public test::PagesTest {
+class RoundTripTest : public PagesTest {
  protected:
   struct Case {
     int type;
@@ -123,7 +123,7 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
        "type txtTitle \"\"; choose optDataLabels(2); type cboNumberMask \"\"",
        R"(<categories headings-in="rows"><column name="Region"/></categories><series headings-in="none"/>)"
        R"(<values><column name="Amount"/></values><data-labels/><dynamic-attributes/><comment></comment>)"},
-      {4, test::NewBubbleBook(),
+      {4, NewBubbleBook(),
        "type txtTitle Sales; select lstYValues Up; choose cboXValues Size; choose cboCategories Group; "
        "choose cboSizes Across; check chkShowZeroBubbles; choose cboSeries Name; type txtHAxis Mine; check "
        "chk3D; check chkQuadrants; check chkScaleXAxis; check chkScaleYAxis; type txtComment Said",
@@ -147,7 +147,7 @@ std::vector<RoundTripTest::Case> RoundTripTest::Cases() {
        R"(<categories headings-in="rows"><column name="Group"/></categories><series headings-in="none"/>)"
        R"(<values><column name="Up"/></values><x-values><column name="Size"/></x-values><axes/>)"
        R"(<dynamic-attributes/><static-attributes/><comment></comment>)"},
-      {5, test::NewBucketBook(),
+      {5, NewBucketBook(),
        "type txtTitle Sales; choose cboBucketTables Others; choose cboCategories Theme; choose cboSeries "
        "Project; choose cboBlockSequence Rank; choose optBlockSequence(1); check chkShowNames; type "
        "cboDataLabelMask 0.0; type txtVAxis Mine; type txtComment Said",

@@ -6,16 +6,16 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class SelectActionTest : public test::PagesTest {};
+class SelectActionTest : public PagesTest {};
 
 TEST_F(SelectActionTest, ButtonsFollowTheSelection) {
-  test::PlainBook book = BookOfCharts({{"Charts", "beta"},
-                                       {"Charts", "Alpha"},
-                                       {"Hidden", "hidden"},
-                                       {"Very", "very"},
-                                       {"Charts", "orphan", "Data9"},
-                                       {"Charts", "Zeta", "Data2"}});
-  book.sheets.push_back(test::SalesSheet("Data2"));
+  PlainBook book = BookOfCharts({{"Charts", "beta"},
+                                 {"Charts", "Alpha"},
+                                 {"Hidden", "hidden"},
+                                 {"Very", "very"},
+                                 {"Charts", "orphan", "Data9"},
+                                 {"Charts", "Zeta", "Data2"}});
+  book.sheets.push_back(SalesSheet("Data2"));
   book.sheets.back().state = "hidden";
   const S none = "cmdModify cmdCopy cmdDelete cmdGoToChart cmdGoToTable";
   const std::pair<S, S> cases[] = {
@@ -48,7 +48,7 @@ TEST_F(SelectActionTest, ButtonsFollowTheSelection) {
 }
 
 TEST_F(SelectActionTest, EachButtonHasItsEffect) {
-  const test::PlainBook book =
+  const PlainBook book =
       BookOfCharts({{"Charts", "beta"}, {"Charts", "Alpha"}, {"Charts", "orphan", "Data9"}});
   const struct {
     S script, active;
@@ -102,7 +102,7 @@ TEST_F(SelectActionTest, CopiesHaveANameOfTheirOwn) {
 }
 
 TEST_F(SelectActionTest, DeleteTakesChartsAndTheirComments) {
-  test::PlainBook book = BookOfCharts({{"Charts", "a"}, {"Other", "b"}, {"Charts", "c"}});
+  PlainBook book = BookOfCharts({{"Charts", "a"}, {"Other", "b"}, {"Charts", "c"}});
   // A drawing of the user also has the id.
   book.Sheet("Charts").extraAnchors =
       "<xdr:twoCellAnchor><xdr:from><xdr:col>0</xdr:col><xdr:colOff>0</xdr:colOff><xdr:row>60"

@@ -7,12 +7,12 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class SelectTableTest : public test::PagesTest {};
+class SelectTableTest : public PagesTest {};
 
 const S kAllTypes = "optType(0) optType(1) optType(2) optType(3) optType(4) optType(5)";
 
 /// Returns a workbook with the tables Data1 and Data2, which has no numbers.
-PlainBook TwoTables(const std::vector<test::Definition>& definitions) {
+PlainBook TwoTables(const std::vector<Definition>& definitions) {
   PlainBook book = SalesBook(definitions);
   book.sheets.push_back({"Data2", {{S("A"), S("B")}, {S("x"), S("y")}}});
   return book;
@@ -44,7 +44,7 @@ TEST_F(SelectTableTest, TheTableDeterminesTheTypes) {
 TEST_F(SelectTableTest, TheTypeIsKeptIfTheTableAllowsIt) {
   PlainBook two = TwoTables({});
   PlainBook buckets = NewBucketBook();
-  buckets.sheets.push_back(test::SalesSheet("Data2"));
+  buckets.sheets.push_back(SalesSheet("Data2"));
   const std::pair<PlainBook, S> cases[] = {
       {two,
        "look grdTables Data1|Data2; select grdTables Data1; choose optType(3); select grdTables Data2; "
@@ -89,7 +89,7 @@ TEST_F(SelectTableTest, MessagesAreShownOnce) {
            "' is not currently valid for this chart. You must select a different table to continue.\"; page "
            "frmPSSelectTable; ";
   };
-  test::Definition onTexts;
+  Definition onTexts;
   onTexts.attributes = "table-id=\"Data2\"";
   const S copyChart = "select grdCharts #1; press cmdCopy; ";
   const std::pair<PlainBook, S> cases[] = {

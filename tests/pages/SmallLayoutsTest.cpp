@@ -7,119 +7,109 @@ using namespace test;
 using S = std::string;
 
 /// Tests the layout pages of pie, bubble and strategic bucket charts.
-class SmallLayoutsTest : public test::PagesTest {
- protected:
-  /// A step on a page, with the disabled controls and the visible pictures after it.
-  struct State {
-    S script, off, pictures;
-  };
-};
+class SmallLayoutsTest : public PagesTest {};
 
 constexpr int kPie = 3, kBubble = 4, kBucket = 5;
 
-TEST_F(SmallLayoutsTest, StatesAndPicturesOfPies) {
-  const State cases[] = {
-      {"expect lstCategories.Text Region; expect cboValues.Text Amount; expect optDataLabels(2).Value yes",
-       "", "imgLegend imgPieBasic"},
-      {"check chk3D", "", "imgLegend imgPie3DBasic"},
-      {"check chkExploded", "", "imgLegend imgPieExplode"},
-      {"check chkExploded; check chk3D", "", "imgLegend imgPie3DExplode"},
-      {"check chkExploded; check chk3D; uncheck chkExploded; choose optDataLabels(1)", "",
-       "imgLegend imgPie3DBasic"},
-  };
-  for (const auto& [script, off, pictures] : cases) {
-    EXPECT_EQ(
-        Play(SalesBook({}), NewChart(kPie) + script + "; look off " + off + "; look pictures " + pictures),
-        "");
-  }
+/// Returns a workbook without charts whose tables allow the type.
+PlainBook BookFor(int type) {
+  return type == kPie ? SalesBook({}) : type == kBubble ? NewBubbleBook() : NewBucketBook();
 }
 
-TEST_F(SmallLayoutsTest, StatesAndPicturesOfBubbles) {
+TEST_F(SmallLayoutsTest, StatesAndPicturesFollowEachClick) {
   const S all = "chkShowZeroBubbles chkScaleXAxis chkScaleYAxis";
-  const State cases[] = {
-      {"expect lstYValues.Text Across; expect cboXValues.Text Across; expect cboSizes.List "
+  const struct {
+    int type;
+    S script;         ///< A step on the page.
+    S off, pictures;  ///< The disabled controls and the visible pictures after it.
+  } cases[] = {
+      {kPie,
+       "expect lstCategories.Text Region; expect cboValues.Text Amount; expect optDataLabels(2).Value yes",
+       "", "imgLegend imgPieBasic"},
+      {kPie, "check chk3D", "", "imgLegend imgPie3DBasic"},
+      {kPie, "check chkExploded", "", "imgLegend imgPieExplode"},
+      {kPie, "check chkExploded; check chk3D", "", "imgLegend imgPie3DExplode"},
+      {kPie, "check chkExploded; check chk3D; uncheck chkExploded; choose optDataLabels(1)", "",
+       "imgLegend imgPie3DBasic"},
+      {kBubble,
+       "expect lstYValues.Text Across; expect cboXValues.Text Across; expect cboSizes.List "
        "\"[all the same size]|Across|Up|Size\"; expect cboSeries.List \"[all the same color]|Name|Group\"; "
        "expect txtHAxis.Text Across; expect txtVAxis.Text Across; expect cboSeries.ListIndex 0",
        all, "imgLegendDim imgBubbleBasic"},
-      {"check chk3D; choose cboSeries Name", all, "imgLegend imgBubble3DBasic"},
-      {"choose cboSeries Group; choose cboSeries \"[all the same color]\"", all,
+      {kBubble, "check chk3D; choose cboSeries Name", all, "imgLegend imgBubble3DBasic"},
+      {kBubble, "choose cboSeries Group; choose cboSeries \"[all the same color]\"", all,
        "imgLegendDim imgBubbleBasic"},
-      {"check chkQuadrants", "chkShowZeroBubbles", "imgLegendDim imgBubbleQuad"},
-      {"check chkQuadrants; check chk3D", "chkShowZeroBubbles", "imgLegendDim imgBubble3DQuad"},
-      {"check chkQuadrants; check chkScaleXAxis; check chkScaleYAxis; uncheck chkQuadrants; "
+      {kBubble, "check chkQuadrants", "chkShowZeroBubbles", "imgLegendDim imgBubbleQuad"},
+      {kBubble, "check chkQuadrants; check chk3D", "chkShowZeroBubbles", "imgLegendDim imgBubble3DQuad"},
+      {kBubble,
+       "check chkQuadrants; check chkScaleXAxis; check chkScaleYAxis; uncheck chkQuadrants; "
        "expect chkScaleXAxis.Value 0; expect chkScaleYAxis.Value 0",
        all, "imgLegendDim imgBubbleBasic"},
-      {"choose cboSizes Across", "chkScaleXAxis chkScaleYAxis", "imgLegendDim imgBubbleBasic"},
-      {"choose cboSizes Size; check chkShowZeroBubbles; choose cboSizes Up; expect chkShowZeroBubbles.Value "
+      {kBubble, "choose cboSizes Across", "chkScaleXAxis chkScaleYAxis", "imgLegendDim imgBubbleBasic"},
+      {kBubble,
+       "choose cboSizes Size; check chkShowZeroBubbles; choose cboSizes Up; expect chkShowZeroBubbles.Value "
        "1",
        "chkScaleXAxis chkScaleYAxis", "imgLegendDim imgBubbleBasic"},
-      {"choose cboSizes Size; check chkShowZeroBubbles; choose cboSizes \"[all the same size]\"; "
+      {kBubble,
+       "choose cboSizes Size; check chkShowZeroBubbles; choose cboSizes \"[all the same size]\"; "
        "expect chkShowZeroBubbles.Value 0",
        all, "imgLegendDim imgBubbleBasic"},
-      {"select lstYValues Up; choose cboXValues Size; expect txtVAxis.Text Up; expect txtHAxis.Text Size",
+      {kBubble,
+       "select lstYValues Up; choose cboXValues Size; expect txtVAxis.Text Up; expect txtHAxis.Text Size",
        all, "imgLegendDim imgBubbleBasic"},
-  };
-  for (const auto& [script, off, pictures] : cases) {
-    EXPECT_EQ(Play(NewBubbleBook(),
-                   NewChart(kBubble) + script + "; look off " + off + "; look pictures " + pictures),
-              "");
-  }
-}
-
-TEST_F(SmallLayoutsTest, StatesAndPicturesOfStrategicBuckets) {
-  const State cases[] = {
-      {"expect cboBucketTables.Text Buckets; look grdBuckets bucket,SUM|GROWTH,120|CORE,50; expect "
+      {kBucket,
+       "expect cboBucketTables.Text Buckets; look grdBuckets bucket,SUM|GROWTH,120|CORE,50; expect "
        "txtHAxis.Text bucket; expect txtVAxis.Text SUM; expect optBlockSequence(0).Value yes; expect "
        "cboBlockSequence.List [none]|Sum|Rank; expect cboSeries.ListIndex 0",
        "", "imgLegendDim imgStrBuckBasic"},
-      {"choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text Rank; "
+      {kBucket,
+       "choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text Rank; "
        "look grdBuckets Theme,Rank|NEW,1,235|OLD,-2",
        "", "imgLegendDim imgStrBuckBasic"},
-      {"type txtVAxis Mine; choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text "
+      {kBucket,
+       "type txtVAxis Mine; choose cboBucketTables Others; expect txtHAxis.Text Theme; expect txtVAxis.Text "
        "Mine",
        "", "imgLegendDim imgStrBuckBasic"},
-      {"choose cboSeries Theme", "", "imgLegend imgStrBuckBasic"},
-      {"choose cboSeries Theme; choose cboSeries \"[all the same color]\"", "",
+      {kBucket, "choose cboSeries Theme", "", "imgLegend imgStrBuckBasic"},
+      {kBucket, "choose cboSeries Theme; choose cboSeries \"[all the same color]\"", "",
        "imgLegendDim imgStrBuckBasic"},
   };
-  for (const auto& [script, off, pictures] : cases) {
-    EXPECT_EQ(Play(NewBucketBook(),
-                   NewChart(kBucket) + script + "; look off " + off + "; look pictures " + pictures),
-              "");
+  for (const auto& [type, script, off, pictures] : cases) {
+    EXPECT_EQ(
+        Play(BookFor(type), NewChart(type) + script + "; look off " + off + "; look pictures " + pictures),
+        "");
   }
 }
 
 TEST_F(SmallLayoutsTest, MessagesMoveTheFocus) {
   const S badFormat = "The requested number format is not supported by Excel";
   const struct {
-    PlainBook book;
     int type;
     S script, message, focus;
     bool outlivesBack =
         false;  ///< Whether the state is kept after Back, rather than reset to the first entries.
   } cases[] = {
-      {SalesBook({}), kPie, "select lstCategories; clear cboValues",
-       "Please select a 'Slice Represents' entry", "lstCategories"},
-      {SalesBook({}), kPie, "clear cboValues; type cboNumberMask \"0 [\"",
-       "Please select a 'Slice Size' entry", "cboValues"},
-      {SalesBook({}), kPie, "type cboNumberMask \"0 [\"", badFormat, "cboNumberMask", true},
-      {NewBubbleBook(), kBubble, "select lstYValues; clear cboXValues",
-       "Please select a 'Vertical (Y-axis)' entry", "lstYValues"},
-      {NewBubbleBook(), kBubble, "clear cboXValues; clear cboCategories",
-       "Please select a 'Horizontal (X-axis)' entry", "cboXValues"},
-      {NewBubbleBook(), kBubble, "clear cboCategories", "Please select a 'Bubble Represents' entry",
-       "cboCategories"},
-      {NewBucketBook(), kBucket, "clear cboCategories; type cboDataLabelMask \"0 [\"",
+      {kPie, "select lstCategories; clear cboValues", "Please select a 'Slice Represents' entry",
+       "lstCategories"},
+      {kPie, "clear cboValues; type cboNumberMask \"0 [\"", "Please select a 'Slice Size' entry",
+       "cboValues"},
+      {kPie, "type cboNumberMask \"0 [\"", badFormat, "cboNumberMask", true},
+      {kBubble, "select lstYValues; clear cboXValues", "Please select a 'Vertical (Y-axis)' entry",
+       "lstYValues"},
+      {kBubble, "clear cboXValues; clear cboCategories", "Please select a 'Horizontal (X-axis)' entry",
+       "cboXValues"},
+      {kBubble, "clear cboCategories", "Please select a 'Bubble Represents' entry", "cboCategories"},
+      {kBucket, "clear cboCategories; type cboDataLabelMask \"0 [\"",
        "Please select a 'Block Represents' entry", "cboCategories"},
-      {NewBucketBook(), kBucket, "type cboDataLabelMask \"0 [\"", badFormat, "cboDataLabelMask", true},
+      {kBucket, "type cboDataLabelMask \"0 [\"", badFormat, "cboDataLabelMask", true},
   };
-  for (const auto& [book, type, script, message, focus, outlivesBack] : cases) {
+  for (const auto& [type, script, message, focus, outlivesBack] : cases) {
     const S start = NewChart(type) + script;
     const S said =
         "; expect message \"" + message + "\"; look focus " + focus + "; expect cmdNext.Enabled yes";
-    EXPECT_EQ(Play(book, start + "; press cmdNext" + said), "");
+    EXPECT_EQ(Play(BookFor(type), start + "; press cmdNext" + said), "");
     if (!outlivesBack) continue;
-    EXPECT_EQ(Play(book, start + "; press cmdBack; press cmdFinish" + said), "");
+    EXPECT_EQ(Play(BookFor(type), start + "; press cmdBack; press cmdFinish" + said), "");
   }
   EXPECT_EQ(Play(SalesBook({}), NewChart(kPie) + "press cmdBack; force strategic bucket; press cmdFinish; "
                                                  "expect message \"Invalid property value\"; expect message "

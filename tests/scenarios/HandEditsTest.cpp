@@ -1,7 +1,6 @@
 #include <functional>
 #include <vector>
 
-#include "common/RunVariables.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "xlsx/Worksheet.h"
@@ -25,7 +24,7 @@ void ReplaceSpan(S& text, const S& from, const S& to, const S& what) {
   text.replace(begin, text.find(to, begin) - begin, what);
 }
 
-class HandEditsTest : public test::HostTest {
+class HandEditsTest : public HostTest {
  protected:
   /// Changes the saved file, as another program could.
   void Edit(const std::function<void(xlsx::Package&)>& edit) {
@@ -35,15 +34,14 @@ class HandEditsTest : public test::HostTest {
     OpenFile(folder_ / "saved.xlsx");
   }
   void EditChart(const std::function<void(S&)>& edit) {
-    test::EditPart(folder_ / "saved.xlsx", kChart, edit);
+    EditPart(folder_ / "saved.xlsx", kChart, edit);
     OpenFile(folder_ / "saved.xlsx");
   }
   void DrawChart(const S& rest) {
     Definition definition{"VEX_Chart1", "column", "table-id=\"Data1\" title=\"Sales\" number-format=\"0\""};
     definition.rest = rest;
     Open(SalesBook({definition}));
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
   }
   S StoredDefinition() { return Cells("VEX_ChartDefinitions", 2, 1, 2, 1); }
 
@@ -182,10 +180,7 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
         "<axes><axis type=\"value\" label=\"Money\" sticky=\"no\"/></axes><data-labels><data-label "
         "show=\"values\"/></data-labels>");
     EditChart(hand.edit);
-    for (int i = 0; i < 2; ++i) {
-      Refresh();
-      SaveAndReopen();
-    }
+    for (int i = 0; i < 2; ++i) RefreshAndReopen();
     const S chart = SavedPart(kChart), definition = StoredDefinition();
     for (const S& wanted : hand.chart)
       EXPECT_NE(chart.find(wanted), S::npos) << wanted << "\n  isn't in\n" << chart;
@@ -197,9 +192,8 @@ TEST_F(HandEditsTest, ChangesMadeByHandSurvive) {
 }
 
 TEST_F(HandEditsTest, TheMarksOfBucketsKeepTheFontOfTheirLabels) {
-  Open(test::BucketBook(test::BucketDefinition()));
-  Refresh();
-  SaveAndReopen();
+  Open(BucketBook(BucketDefinition()));
+  RefreshAndReopen();
   const S labels = "<c:dLbls>", georgia = "<a:latin typeface=\"Georgia\"/>";
   EditChart([&](S& xml) {
     const auto marks = xml.rfind(labels);
@@ -210,8 +204,7 @@ TEST_F(HandEditsTest, TheMarksOfBucketsKeepTheFontOfTheirLabels) {
     xml = xml.substr(0, marks) + formatted;
   });
   for (int i = 0; i < 2; ++i) {
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
     const S chart = SavedPart(kChart), marks = chart.substr(chart.rfind(labels));
     EXPECT_NE(marks.find("sz=\"1400\""), S::npos) << marks;
     EXPECT_NE(marks.find(kRed), S::npos) << marks;
@@ -228,7 +221,7 @@ TEST_F(HandEditsTest, TheMarksOfBucketsKeepTheFontOfTheirLabels) {
 }
 
 TEST_F(HandEditsTest, ThreeDimensionsKeepTheirView) {
-  DrawChart(test::Settings({"3D"}));
+  DrawChart(Settings({"3D"}));
   EditChart([](S& xml) {
     ReplaceSpan(xml, "<c:view3D>", "<c:floor",
                 "<c:view3D><c:rotX val=\"40\"/><c:rotY val=\"120\"/><c:rAngAx val=\"0\"/><c:perspective "
@@ -236,8 +229,7 @@ TEST_F(HandEditsTest, ThreeDimensionsKeepTheirView) {
     ReplaceSpan(xml, "<c:floor>", "<c:sideWall>",
                 "<c:floor><c:thickness val=\"5\"/><c:spPr>" + kRed + "</c:spPr></c:floor>");
   });
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_NE(SavedPart(kChart).find(
                 "<c:view3D><c:rotX val=\"40\"/><c:rotY val=\"120\"/><c:rAngAx val=\"0\"/><c:perspective "
                 "val=\"60\"/></c:view3D><c:floor><c:thickness val=\"5\"/><c:spPr>" +
@@ -248,12 +240,11 @@ TEST_F(HandEditsTest, ThreeDimensionsKeepTheirView) {
 
 TEST_F(HandEditsTest, AChartIsFoundOnTheSheetToWhichItWasMoved) {
   auto book = SalesBook({{"VEX_Chart1"}});
-  test::PlainSheet other{"Other"};
+  PlainSheet other{"Other"};
   other.frames = {{"not ours", ""}};
   book.sheets.insert(book.sheets.begin() + 2, other);
   Open(book);
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   Edit([](xlsx::Package& package) {
     for (const S part : {"/xl/drawings/drawing2.xml", "/xl/drawings/_rels/drawing2.xml.rels"}) {
       S second = part;
@@ -263,8 +254,7 @@ TEST_F(HandEditsTest, AChartIsFoundOnTheSheetToWhichItWasMoved) {
       package.Replace(second, bytes);
     }
   });
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_NE(StoredDefinition().find("chart-worksheet=\"Other\""), S::npos) << StoredDefinition();
   EXPECT_NE(SavedPart(kChart).find("VEX_ChartData!"), S::npos);
   EXPECT_TRUE(Messages().empty());
@@ -280,17 +270,15 @@ TEST_F(HandEditsTest, ChartsWithoutMarkersAreIdentifiedByTheirData) {
   box->SetAlternativeText("VEX_Chart2");
   box->TextFrame()->Characters()->SetText("Said of\nthe bars");
   SaveAndReopen();
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   Edit([](xlsx::Package& package) {
     S xml = package.Read("/xl/drawings/drawing2.xml");
     for (const S marker : {"VEX_Chart1", "VEX_Chart2", "VEX_Chart2"})
       ReplaceFirst(xml, " descr=\"" + marker + "\"", "");
     package.Replace("/xl/drawings/drawing2.xml", xml);
-    test::SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64");
+    SetSavingProgram(package, "LibreOffice/7.4.7.2$Linux_X86_64");
   });
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   std::vector<S> markers;
   const auto shapes = Book().FindWorksheet("Charts")->Shapes();
   for (int i = 1; i <= shapes->Count(); ++i) markers.push_back(shapes->Item(i)->AlternativeText());

@@ -28,7 +28,7 @@ namespace fs = std::filesystem;
 using namespace test;
 using S = std::string;
 
-const fs::path kHelp = fs::path(test::kSourceFolder) / "docs/help";
+const fs::path kHelp = fs::path(kSourceFolder) / "docs/help";
 
 /// Returns the words of a text, separated by single blanks.
 S Words(const S& text) {
@@ -39,9 +39,7 @@ S Words(const S& text) {
 }
 
 /// Returns a message in the format of the help, with "NAME" in place of names.
-S WithoutNames(const S& message) {
-  return Words(test::ReplaceMatches(message, "'(/TKN/|Data[0-9])'", "'NAME'"));
-}
+S WithoutNames(const S& message) { return Words(ReplaceMatches(message, "'(/TKN/|Data[0-9])'", "'NAME'")); }
 
 S TextOf(const pugi::xml_node& node) {
   S text;
@@ -76,7 +74,7 @@ struct TopicRow {
 };
 
 std::vector<TopicRow> TopicRows() {
-  std::istringstream lines(test::BytesOf(kHelp / "topics.tsv"));
+  std::istringstream lines(BytesOf(kHelp / "topics.tsv"));
   std::vector<TopicRow> rows;
   S line;
   std::getline(lines, line);
@@ -142,7 +140,7 @@ class NotingLines final : public forms::LineSource {
     desktop_.messages.clear();
   }
 
-  test::PageLines lines_;
+  PageLines lines_;
   NotingDesktop& desktop_;
   TextsByTopic& texts_;
 };
@@ -154,8 +152,8 @@ struct Walk {
 };
 
 std::vector<Walk> Walks() {
-  const PlainBook charts = test::BookOfCharts({{"Charts", "a"}, {"Charts", "b"}});
-  test::Definition onTexts;
+  const PlainBook charts = BookOfCharts({{"Charts", "a"}, {"Charts", "b"}});
+  Definition onTexts;
   onTexts.attributes = "table-id=\"Data2\"";
   PlainBook noNumbers = SalesBook({onTexts});
   noNumbers.sheets.push_back({"Data2", {{S("A"), S("B")}, {S("x"), S("y")}}});
@@ -168,12 +166,11 @@ std::vector<Walk> Walks() {
       {SalesBook({}), NewChart(3) + "select lstCategories; press cmdNext; select lstCategories Region; clear "
                                     "cboValues; press cmdNext; choose cboValues Amount; type cboNumberMask "
                                     "\"0 [\"; press cmdNext; type cboNumberMask \"\"; "},
-      {test::NewBubbleBook(), NewChart(4) + "select lstYValues; press cmdNext; select lstYValues #1; clear "
-                                            "cboXValues; press cmdNext; choose cboXValues Up; clear "
-                                            "cboCategories; press cmdNext; "},
-      {test::NewBucketBook(), NewChart(5) +
-                                  "clear cboCategories; press cmdNext; choose cboCategories Project; " +
-                                  badFormat + "type cboDataLabelMask \"\"; "},
+      {NewBubbleBook(), NewChart(4) + "select lstYValues; press cmdNext; select lstYValues #1; clear "
+                                      "cboXValues; press cmdNext; choose cboXValues Up; clear "
+                                      "cboCategories; press cmdNext; "},
+      {NewBucketBook(), NewChart(5) + "clear cboCategories; press cmdNext; choose cboCategories Project; " +
+                            badFormat + "type cboDataLabelMask \"\"; "},
       {charts, toLocation +
                    "type txtName \"\"; press cmdFinish; type txtName A; press cmdFinish; type txtName c; "
                    "clear cboSheet; press cmdFinish; choose optTargetSheet(0); type txtSheet \"\"; press "
@@ -195,18 +192,17 @@ std::vector<Walk> Walks() {
 std::set<S> SentencesOf(const S& file) {
   const S comment = "//[^\n]*", literal = "(?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+", seam = "\"\\s*\"",
           lineBreak = R"(\\r\\n)";
-  const S source =
-      test::ReplaceMatches(test::BytesOf(fs::path(test::kSourceFolder) / "src" / file), comment, "");
+  const S source = ReplaceMatches(BytesOf(fs::path(kSourceFolder) / "src" / file), comment, "");
   std::set<S> sentences;
-  for (const test::Match& match : test::MatchesOf(source, literal)) {
-    const S text = test::ReplaceMatches(test::ReplaceMatches(match[0], seam, ""), lineBreak, " ");
+  for (const Match& match : MatchesOf(source, literal)) {
+    const S text = ReplaceMatches(ReplaceMatches(match[0], seam, ""), lineBreak, " ");
     const S sentence = WithoutNames(runtime::Replace(text, "\"", ""));
     if (std::ranges::count(sentence, ' ') >= 3) sentences.insert(sentence);
   }
   return sentences;
 }
 
-class HelpTopicsTest : public test::HostTest {
+class HelpTopicsTest : public HostTest {
  protected:
   /// Returns the texts of all pages.
   TextsByTopic PagesTexts() {
@@ -316,27 +312,26 @@ TEST_F(HelpTopicsTest, TheLanguageIsPlain) {
       "\\b(WHOEVER|NOBODY|LIKEWISE|STANDS FOR|HANGS ON|UTILI[SZ]E|AFOREMENTIONED|E\\.G\\.|I\\.E\\.)";
   for (const TopicRow& row : TopicRows()) {
     SCOPED_TRACE(row.file);
-    const S html = test::BytesOf(kHelp / row.file);
+    const S html = BytesOf(kHelp / row.file);
     EXPECT_TRUE(std::ranges::all_of(html, [](char c) { return static_cast<unsigned char>(c) < 128; }))
         << "write other characters as &#NUMBER;";
     const HelpFile help = Read(row.file);
-    EXPECT_EQ(test::MatchesOf(runtime::UCase(help.text), fancy), std::vector<test::Match>());
+    EXPECT_EQ(MatchesOf(runtime::UCase(help.text), fancy), std::vector<Match>());
     for (const auto& paragraph : help.document.select_nodes("//p[not(@class)] | //li")) {
-      for (const test::Match& sentence : test::MatchesOf(TextOf(paragraph.node()), "[^.!?]+[.!?]"))
+      for (const Match& sentence : MatchesOf(TextOf(paragraph.node()), "[^.!?]+[.!?]"))
         EXPECT_LE(std::ranges::count(sentence[0], ' '), 45) << "a long sentence: " << sentence[0];
     }
   }
 }
 
 TEST_F(HelpTopicsTest, TheProjectOpensEachTopicByItsNumber) {
-  const S script = S(test::kSourceFolder) + "/scripts/help-project.py ";
+  const S script = S(kSourceFolder) + "/scripts/help-project.py ";
   const S folder = folder_ / "help";
   ASSERT_EQ(std::system(("python3 " + script + folder + " 2> " + (folder_ / "err.txt")).c_str()), 0);
-  const S project = test::BytesOf(folder + "/Plotsmith.hhp"),
-          contents = test::BytesOf(folder + "/Plotsmith.hhc");
+  const S project = BytesOf(folder + "/Plotsmith.hhp"), contents = BytesOf(folder + "/Plotsmith.hhc");
   for (const TopicRow& row : TopicRows()) {
     SCOPED_TRACE(row.file);
-    EXPECT_EQ(test::BytesOf(folder + "/help/" + row.file), test::BytesOf(kHelp / row.file));
+    EXPECT_EQ(BytesOf(folder + "/help/" + row.file), BytesOf(kHelp / row.file));
     EXPECT_NE(project.find("\nhelp/" + row.file + "\n"), S::npos);
     EXPECT_NE(contents.find("<param name=\"Name\" value=\"" + row.title +
                             "\">\n<param name=\"Local\" value=\"help/" + row.file + "\">"),
@@ -352,7 +347,7 @@ TEST_F(HelpTopicsTest, TheProjectOpensEachTopicByItsNumber) {
     EXPECT_TRUE(fs::exists(fs::path(folder) / line)) << line;
   EXPECT_GT(files, 50);
   EXPECT_NE(std::system(("python3 " + script + "/dev/null/help 2> " + (folder_ / "err.txt")).c_str()), 0);
-  EXPECT_NE(test::BytesOf(folder_ / "err.txt").find("/dev/null/help/help can't be written: "), S::npos);
+  EXPECT_NE(BytesOf(folder_ / "err.txt").find("/dev/null/help/help can't be written: "), S::npos);
 }
 
 }  // namespace

@@ -79,6 +79,13 @@ class LibreOfficeTest : public test::HostTest {
     return charts;
   }
 
+  /// Draws the charts of a workbook, and returns them in the same way.
+  std::vector<S> Drawn(const test::PlainBook& book) {
+    Open(book);
+    RefreshAndReopen();
+    return Charts();
+  }
+
   /// Returns the data of a chart, with "\n" between rows and "|" between cells.
   static S Data(const S& content) {
     pugi::xml_document document;
@@ -119,10 +126,7 @@ TEST_F(LibreOfficeTest, ReadsTheSameSeries) {
       "<data-labels><data-label show=\"values\"/></data-labels><dynamic-attributes><attribute "
       "setting=\"3D\"/></dynamic-attributes>";
   column.series = "<series headings-in=\"columns\"><column name=\"Amount\"/><column name=\"Cost\"/></series>";
-  Open(test::SalesBook({bar, area, column}));
-  Refresh();
-  SaveAndReopen();
-  const auto charts = Charts();
+  const auto charts = Drawn(test::SalesBook({bar, area, column}));
   ASSERT_EQ(charts.size(), 3u);
   EXPECT_EQ(Data(charts[0]), "|Widget|Gadget\nEast|11|7\nWest|5|");
   EXPECT_EQ(Data(charts[1]), "|Widget|Gadget\nEast|11|7\nWest|5|");
@@ -141,19 +145,13 @@ TEST_F(LibreOfficeTest, ReadsTheSameSeries) {
 TEST_F(LibreOfficeTest, ReadsPiesBubblesAndBuckets) {
   Definition pie{"VEX_Chart1", "pie"};
   pie.series = "<series headings-in=\"none\"/>";
-  Open(test::SalesBook({pie}));
-  Refresh();
-  SaveAndReopen();
-  auto charts = Charts();
+  auto charts = Drawn(test::SalesBook({pie}));
   ASSERT_EQ(charts.size(), 1u);
   EXPECT_EQ(Class(charts[0]), "circle");
   EXPECT_NE(Data(charts[0]).find("East|18\nWest|5"), S::npos) << Data(charts[0]);
 
-  Open(test::BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}, {"C", "HR", 5, 6, 10}},
-                        test::BubbleDefinition()));
-  Refresh();
-  SaveAndReopen();
-  charts = Charts();
+  charts = Drawn(test::BubbleBook({{"A", "North", 1, 2, 30}, {"B", "South", 3, 4, 20}, {"C", "HR", 5, 6, 10}},
+                                  test::BubbleDefinition()));
   ASSERT_EQ(charts.size(), 1u);
   EXPECT_EQ(Class(charts[0]), "bubble");
   for (const char* seen : {">North<", ">South<", "office:value=\"3\"", "office:value=\"4\"",
@@ -162,10 +160,7 @@ TEST_F(LibreOfficeTest, ReadsPiesBubblesAndBuckets) {
   }
   EXPECT_EQ(LegendTextLefts(charts[0]).size(), 1u) << "the texts are aligned to the left";
 
-  Open(test::BucketBook(test::BucketDefinition()));
-  Refresh();
-  SaveAndReopen();
-  charts = Charts();
+  charts = Drawn(test::BucketBook(test::BucketDefinition()));
   ASSERT_EQ(charts.size(), 1u);
   EXPECT_NE(Data(charts[0]).find("GROWTH|"), S::npos) << Data(charts[0]);
   EXPECT_NE(charts[0].find(">Strategic Buckets<"), S::npos);
@@ -192,8 +187,7 @@ TEST_F(LibreOfficeTest, ItsEditsSurviveTheNextRefresh) {
       "<axes><axis type=\"value\" label=\"Money\" sticky=\"no\"/></axes><data-labels><data-label "
       "show=\"values\"/></data-labels>";
   Open(test::SalesBook({column, area}));
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EditInOffice(
       "chart = "
       "book.Sheets.getByName(&quot;Charts&quot;).Charts.getByIndex(0).EmbeddedObject\nchart.Title.String = "
@@ -202,8 +196,7 @@ TEST_F(LibreOfficeTest, ItsEditsSurviveTheNextRefresh) {
       "True\nchart.Diagram.YAxisTitle.String = &quot;Euros&quot;\nchart.Area.FillColor = RGB(255, 255, "
       "204)\nchart.Area.FillStyle = com.sun.star.drawing.FillStyle.SOLID\n");
   OpenFile(folder_ / "edited.xlsx");
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_TRUE(Messages().empty());
   const S definition = Cells("VEX_ChartDefinitions", 2, 1, 2, 1);
   for (const char* kept : {"title=\"Retitled\"", "type=\"bar\"",

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/line/CommandLine.h"
+#include "runtime/Strings.h"
 #include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
@@ -29,13 +30,6 @@ S Block(const S& page, const S& begin) {
   return page.substr(text, page.find("```", text) - text);
 }
 
-S Replaced(const S& text, const S& what, const S& by) {
-  S result = text;
-  for (std::size_t at = 0; (at = result.find(what, at)) != S::npos; at += by.size())
-    result.replace(at, what.size(), by);
-  return result;
-}
-
 /// Executes the instructions in the documentation for new users.
 class NewcomerTest : public ::testing::Test {
  protected:
@@ -46,8 +40,15 @@ class NewcomerTest : public ::testing::Test {
                                                                          << test::BytesOf(out);
     return test::BytesOf(out);
   }
+  /// Runs a line of a page on a workbook of this test. Returns the output.
+  S ShellOfPage(const S& line) {
+    using runtime::Replace;
+    const S built = Replace(Replace(line, "build/plotsmith", test::kCommand), "book.xlsx", book_);
+    return Shell(Replace(built, "examples/", (kRoot / "examples/").string()));
+  }
 
   test::TempFolder folder_;
+  const S book_ = folder_ / "book.xlsx";
   const S readme_ = test::BytesOf(kRoot / "README.md");
 };
 
@@ -55,14 +56,11 @@ TEST_F(NewcomerTest, TheReadmesWorkbookIsRefreshed) {
   std::istringstream commands(Block(readme_, "\npython3 examples/write_book.py"));
   S line, last;
   while (std::getline(commands, line)) {
-    line = Replaced(line, "build/plotsmith", test::kCommand);
-    line = Replaced(line, "examples/", (kRoot / "examples/").string());
-    last = Shell(Replaced(line, "book.xlsx", folder_ / "book.xlsx"));
+    last = ShellOfPage(line);
     if (line.find("write_book") == S::npos) continue;
     // The script writes the definition that the page shows above it.
     const S definition = test::ReplaceMatches(Block(readme_, "xml\n"), "\n *", "");
-    EXPECT_EQ(Shell(S(test::kCommand) + " cells " + (folder_ / "book.xlsx") + " 'VEX_ChartDefinitions!A2'"),
-              definition + "\n");
+    EXPECT_EQ(Shell(S(test::kCommand) + " cells " + book_ + " 'VEX_ChartDefinitions!A2'"), definition + "\n");
   }
   EXPECT_EQ(last,
             "VEX_Chart1  \"Sales\"\n  column chart on sheet Data1, from table Data1 on sheet Data1\n  ok\n");
@@ -97,10 +95,10 @@ TEST_F(NewcomerTest, TheDefinitionsOfThePageOfFormatsAreDrawn) {
       const auto host = xlsx::Application::Create();
       host->Open((kRoot / "examples" / (example + ".xlsx")).string());
       host->Book().FindWorksheet("VEX_ChartDefinitions")->Cells(2, 1)->SetValue(definition);
-      host->Book().Save(folder_ / "book.xlsx");
+      host->Book().Save(book_);
     }
-    EXPECT_EQ(Shell(S(test::kCommand) + " refresh " + (folder_ / "book.xlsx")), "");
-    const S charts = Shell(S(test::kCommand) + " charts " + (folder_ / "book.xlsx"));
+    EXPECT_EQ(Shell(S(test::kCommand) + " refresh " + book_), "");
+    const S charts = Shell(S(test::kCommand) + " charts " + book_);
     EXPECT_TRUE(charts.starts_with("VEX_Chart1  \"" + S(type == "bubble" ? "Wealth" : "Investments") + "\""))
         << charts;
     EXPECT_EQ(charts.find("not drawn"), S::npos) << charts;
@@ -110,16 +108,10 @@ TEST_F(NewcomerTest, TheDefinitionsOfThePageOfFormatsAreDrawn) {
 TEST_F(NewcomerTest, TheFirstStepsOfTheReadmeMakeAChart) {
   std::istringstream commands(Block(readme_, "\ncp examples/data/orders.xlsx") +
                               Block(readme_, "\nbuild/plotsmith refresh book.xlsx"));
-  const S book = folder_ / "book.xlsx";
-  S line;
   int steps = 0;
-  for (; std::getline(commands, line); ++steps) {
-    line = Replaced(line, "build/plotsmith", test::kCommand);
-    line = Replaced(line, "examples/", (kRoot / "examples/").string());
-    Shell(Replaced(line, "book.xlsx", book));
-  }
+  for (S line; std::getline(commands, line); ++steps) ShellOfPage(line);
   EXPECT_EQ(steps, 4);
-  EXPECT_EQ(Shell(S(test::kCommand) + " charts " + book),
+  EXPECT_EQ(Shell(S(test::kCommand) + " charts " + book_),
             "VEX_Chart1  \"Amount by region\"\n  column chart on sheet Charts, from table Data1 on sheet "
             "Data1\n  ok\n");
 }

@@ -2,7 +2,6 @@
 #include <vector>
 
 #include "controller/CPlotsmithController.h"
-#include "host/excel/Excel.h"
 #include "runtime/Strings.h"
 #include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
@@ -14,7 +13,7 @@ namespace {
 using namespace test;
 using S = std::string;
 
-class RefreshScenarioTest : public test::HostTest {
+class RefreshScenarioTest : public HostTest {
  protected:
   S Refers(const S& name) { return Book().Names()->Item(name)->RefersTo(); }
   /// Opens the saved workbook after its first sheet was replaced by that of `book`, as by an export.
@@ -48,22 +47,20 @@ TEST_F(RefreshScenarioTest, ReferencesFollowABlockThatGrowsAboveThem) {
   SetRegions(book, {"A", "B"});
   book.Sheet("Charts").frames.push_back({"somebody's", ForeignChart("VEX_ChartData!$C$5:$C$6"), 0, 60});
   book.Sheet("Charts").frames.push_back({"another's", ForeignChart("Data1!$C$5:$C$6"), 9, 60});
-  test::PlainSheet formulas{"Formulas"};
-  formulas.rows = {{test::RawCell{"><f>SUM(VEX_ChartData!$C$5:C6)</f><v>3</v></c>"},
-                    test::RawCell{"><f>Data1!C5</f></c>"}}};
+  PlainSheet formulas{"Formulas"};
+  formulas.rows = {
+      {RawCell{"><f>SUM(VEX_ChartData!$C$5:C6)</f><v>3</v></c>"}, RawCell{"><f>Data1!C5</f></c>"}}};
   book.sheets.push_back(formulas);
   book.names = {{"SecondBlock", "VEX_ChartData!$B$5:$C$6"}, {"Elsewhere", "Data1!$A$5"}};
   Open(book);
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_NE(Chart(2).find("<c:f>VEX_ChartData!$C$5:$C$6</c:f>"), S::npos);
 
   // The table gets three more rows, and both charts are rebuilt, one after the other.
   PlainBook grown = book;
   SetRegions(grown, {"A", "B", "C", "D", "E"});
   OpenSavedWithDataOf(grown);
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_TRUE(Messages().empty());
   EXPECT_EQ(
       Cells("VEX_ChartData", 1, 1, 13, 3),
@@ -87,11 +84,10 @@ TEST_F(RefreshScenarioTest, ReferencesFollowABlockThatGrowsAboveThem) {
 TEST_F(RefreshScenarioTest, AChartThatIsNotRebuiltKeepsItsDataWhenRowsMove) {
   Definition other{"VEX_Chart2", "bar", "table-id=\"Data2\" title=\"Other\""};
   PlainBook book = SalesBook({{"VEX_Chart1"}, other});
-  book.sheets.push_back(test::SalesSheet("Data2"));
+  book.sheets.push_back(SalesSheet("Data2"));
   SetRegions(book, {"A", "B"});
   Open(book);
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   const S before = Chart(2);
   ASSERT_NE(before.find("VEX_ChartData!$C$5:$C$6"), S::npos) << before;
   SetRegions(book, {"A", "B", "C", "D", "E"});
@@ -113,12 +109,12 @@ TEST_F(RefreshScenarioTest, OtherPartsKeepTheirBytes) {
     book.Sheet("Data1").beforeData = "<!-- kept --><sheetPr/>\r\n";
     book.Sheet("Data1").afterData = "<conditionalFormatting sqref='A1'/>\n<extLst>\t<ext uri='x'/></extLst>";
     book.Sheet("Charts").frames.push_back({"foreign", ForeignChart("Data1!$C$1") + "<!-- bytes -->", 20, 0});
-    book.sheets.push_back(test::SalesSheet("Other"));
+    book.sheets.push_back(SalesSheet("Other"));
     book.extraParts = {{"xl/media/image1.bin", S("\x89PNG\0\xFF", 6)},
                        {"customXml/item1.xml", "<?x?>\r\n<a  b = 'c'/>"}};
     Open(book);
     Refresh();
-    test::SaveThroughFailures(folder_ / "saved.xlsx", [&](const S& path) { Book().Save(path); });
+    SaveThroughFailures(folder_ / "saved.xlsx", [&](const S& path) { Book().Save(path); });
     const auto before = xlsx::Package::Open(folder_ / "book.xlsx"),
                after = xlsx::Package::Open(folder_ / "saved.xlsx");
     const std::set<S> ours = {"/[Content_Types].xml", "/xl/workbook.xml", "/xl/_rels/workbook.xml.rels",
@@ -136,8 +132,7 @@ TEST_F(RefreshScenarioTest, WithoutMemoryASaveLeavesTheOldFile) {
     Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
     Refresh();
     Book().Tabs().Activate(*Book().FindSheet("Charts"));
-    return test::SaveWithoutMemory(folder_ / "book.xlsx", allocation,
-                                   [&](const S& path) { Book().Save(path); });
+    return SaveWithoutMemory(folder_ / "book.xlsx", allocation, [&](const S& path) { Book().Save(path); });
   };
   for (int allocation = 1; !isSaved(allocation); allocation += 1 + allocation / 8) {
   }
@@ -154,29 +149,27 @@ TEST_F(RefreshScenarioTest, ARefreshTwiceChangesNothingMore) {
     definition.rest = rest + "<comment>Said of it</comment>";
     return SalesBook({definition});
   };
-  Definition bubbles = test::BubbleDefinition(), buckets = test::BucketDefinition();
-  bubbles.rest += axes + test::Settings({"quadrants", "autoscale-x"}, "static-attributes");
+  Definition bubbles = BubbleDefinition(), buckets = BucketDefinition();
+  bubbles.rest += axes + Settings({"quadrants", "autoscale-x"}, "static-attributes");
   buckets.rest += axes + "<data-labels manual-labels=\"yes\"/>";
   const std::pair<const char*, PlainBook> cases[] = {
-      {"area", sales("area", axes + labels("values") + test::Settings({"3D"}))},
+      {"area", sales("area", axes + labels("values") + Settings({"3D"}))},
       {"bar", sales("bar", axes)},
-      {"column", sales("column", axes + labels("values") + test::Settings({"stacked", "100%"}))},
-      {"pie", sales("pie", labels("percentages") + test::Settings({"exploded"}))},
-      {"bubble", test::BubbleBook({{"a", "X", 1, 2, 3}, {"b", "Y", 4, 5, 6}, {"c", "X", 7, 8, 9}}, bubbles)},
-      {"strategic bucket", test::BucketBook(buckets)}};
+      {"column", sales("column", axes + labels("values") + Settings({"stacked", "100%"}))},
+      {"pie", sales("pie", labels("percentages") + Settings({"exploded"}))},
+      {"bubble", BubbleBook({{"a", "X", 1, 2, 3}, {"b", "Y", 4, 5, 6}, {"c", "X", 7, 8, 9}}, bubbles)},
+      {"strategic bucket", BucketBook(buckets)}};
   for (const auto& [what, book] : cases) {
     SCOPED_TRACE(what);
     Open(book);
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
     Refresh();  // This is the first refresh of a drawn chart, and it stores the look.
     SaveAndReopen();
     const auto first = xlsx::Package::Open(folder_ / "saved.xlsx");
     std::vector<std::pair<S, S>> parts;
     for (const S& part : first.Parts()) parts.emplace_back(part, first.Read(part));
     EXPECT_NE(Chart(1).find("<c:ser>"), S::npos);
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
     const auto second = xlsx::Package::Open(folder_ / "saved.xlsx");
     EXPECT_EQ(second.Parts().size(), parts.size());
     for (const auto& [part, bytes] : parts) EXPECT_TRUE(second.Read(part) == bytes) << part;

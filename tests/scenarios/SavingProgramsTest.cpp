@@ -31,8 +31,7 @@ class SavingProgramsTest : public test::HostTest {
     const auto box = Book().FindWorksheet("Charts")->Shapes()->AddTextbox(1, 0, 0, 100, 50);
     box->SetAlternativeText("VEX_Chart1");
     box->TextFrame()->Characters()->SetText("Said of\nthe bubbles");
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
   }
   /// Removes from the saved file what a program loses, and stores the name of that program.
   void SaveElsewhere(const S& program, const S& version, const S& lost) {
@@ -59,8 +58,7 @@ class SavingProgramsTest : public test::HostTest {
   }
   /// Returns the parts of the chart that exist after a refresh: "definition, chart, comment, legend".
   S Left() {
-    Refresh();
-    SaveAndReopen();
+    RefreshAndReopen();
     S left;
     if (Cells("VEX_ChartDefinitions", 2, 1, 2, 1).find("VEX_Chart1") != S::npos) left += "definition, ";
     const auto shapes = Book().FindWorksheet("Charts")->Shapes();
@@ -138,8 +136,7 @@ TEST_F(SavingProgramsTest, TheHostReturnsTheSavingProgram) {
   OpenFile(folder_ / "saved.xlsx");
   EXPECT_EQ(name(), "openpyxl 3.0");
   const S app = SavedPart("/docProps/app.xml");
-  Refresh();
-  SaveAndReopen();
+  RefreshAndReopen();
   EXPECT_EQ(SavedPart("/docProps/app.xml"), app) << "Plotsmith doesn't sign as the program";
 }
 

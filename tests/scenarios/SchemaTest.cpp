@@ -3,14 +3,11 @@
 #include <filesystem>
 #include <vector>
 
-#include "common/RunVariables.h"
-#include "tests/support/FamilyBooks.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/Paths.h"
-#include "tests/support/RunCommand.h"
 #include "tests/support/SchemaFaults.h"
+#include "tests/support/VerbsTest.h"
 #include "xlsx/Worksheet.h"
-#include "xlsx/package/PackageError.h"
 
 namespace plotsmith {
 namespace {
@@ -21,7 +18,7 @@ using S = std::string;
 
 /// Checks all written and changed parts with the published schemas. A part of another program may keep its
 /// errors.
-class SchemaTest : public test::HostTest {
+class SchemaTest : public HostTest {
  protected:
   static void SetUpTestSuite() {
     if (Schemas::Present()) schemas_ = std::make_unique<Schemas>();
@@ -94,18 +91,12 @@ std::vector<Definition> AllKinds() {
           SalesDefinition("", "unknown")};
 }
 
-test::PlainSheet Targets() {
-  test::PlainSheet targets{"Targets"};
-  targets.rows = {{S("Targets")}, {}, {S("Region"), S("Amount")}, {S("East"), 100.0}, {S("West"), 50.0}};
-  return targets;
-}
-
 TEST_F(SchemaTest, TheExamplesAndTheGallery) {
   const S gallery = folder_ / "gallery.xlsx";
-  const S command = S(test::kMakeGallery) + " " + folder_.Path().string() + " > /dev/null 2>&1";
+  const S command = S(kMakeGallery) + " " + folder_.Path().string() + " > /dev/null 2>&1";
   ASSERT_EQ(std::system(command.c_str()), 0);
   std::vector<S> books = {gallery};
-  for (const auto& file : fs::directory_iterator(fs::path(test::kSourceFolder) / "examples")) {
+  for (const auto& file : fs::directory_iterator(fs::path(kSourceFolder) / "examples")) {
     if (file.path().extension() == ".xlsx") books.push_back(file.path().string());
   }
   EXPECT_EQ(books.size(), 5u);
@@ -121,13 +112,13 @@ TEST_F(SchemaTest, ChartsOfEveryKindFromEmptyFrames) {
   std::vector<Definition> definitions = AllKinds();
   for (std::size_t i = 0; i < definitions.size(); ++i)
     definitions[i].id = "VEX_Chart" + std::to_string(i + 1);
-  auto book = test::SalesBook(definitions);
-  book.sheets.push_back(Targets());
-  book.names = {{"VEX_SB1", "Targets!$A$1:$B$5"}};
+  auto book = SalesBook(definitions);
+  book.sheets.push_back(PlainSales().Sheet("Targets"));
+  book.names = PlainSales().names;
   const S path = folder_ / "book.xlsx";
   book.Write(path);
   const S strict = folder_ / "strict.xlsx";
-  test::MakeStrict(path, strict);
+  MakeStrict(path, strict);
   for (const char* version : kVersions) {
     RefreshTwice(path, version);
     RefreshTwice(strict, version);
@@ -145,7 +136,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
   std::vector<fs::path> files;
   for (const char* folder : {"charts", "real"}) {
     std::error_code ignored;
-    for (const auto& entry : fs::directory_iterator(fs::path(test::kCorpusFolder) / folder, ignored)) {
+    for (const auto& entry : fs::directory_iterator(fs::path(kCorpusFolder) / folder, ignored)) {
       files.push_back(entry.path());
     }
   }
@@ -158,7 +149,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
       SCOPED_TRACE(file.filename().string() + ", beginning with a " + kinds[pass].type + " " + version);
       OpenFile(file.string(), version);
       if (Book().ProtectStructure()) break;
-      const auto add = [&](const S& name, const std::vector<test::PlainRow>& rows) {
+      const auto add = [&](const S& name, const std::vector<PlainRow>& rows) {
         if (Book().FindSheet(name)) return Book().FindWorksheet(name);
         const auto sheet = Book().AddWorksheet(Book().AllSheets().size());
         Book().Tabs().Rename(*Book().FindSheet(sheet->SheetName()), name);
@@ -172,7 +163,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
         }
         return sheet;
       };
-      std::vector<test::PlainRow> definitions = {{S("Plotsmith Version 2.0")}};
+      std::vector<PlainRow> definitions = {{S("Plotsmith Version 2.0")}};
       const auto sheets = Book().AllWorksheets();
       for (const auto& sheet : sheets) {
         const auto shapes = sheet->Shapes();
@@ -191,13 +182,12 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
         }
       }
       if (definitions.size() == 1) break;
-      add("Data1", test::SalesSheet().rows);
-      add("Targets", Targets().rows);
+      add("Data1", SalesSheet().rows);
+      add("Targets", PlainSales().Sheet("Targets").rows);
       Book().DefineName("VEX_SB1", "Targets!$A$1:$B$5");
       add("VEX_ChartDefinitions", definitions);
       for (int refresh = 1; refresh <= 2; ++refresh) {
-        Refresh();
-        SaveAndReopen();
+        RefreshAndReopen();
         EXPECT_EQ(Faults(file.string(), folder_ / "saved.xlsx"), "") << "refresh " << refresh;
       }
       ++taken;
@@ -208,10 +198,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
 
 TEST_F(SchemaTest, OutputOfTheWizardsVerbs) {
   const S book = folder_ / "book.xlsx", before = folder_ / "before.xlsx";
-  test::PlainBook plain;
-  plain.sheets = {test::SalesSheet(), Targets()};
-  plain.names = {{"VEX_SB1", "Targets!$A$1:$B$5"}};
-  plain.Write(book);
+  PlainSales().Write(book);
   const std::vector<std::vector<S>> verbs = {
       {"new", "--table", "Data1", "--type", "column", "--series", "Product", "--comment", "a b"},
       {"new", "--table", "Data1", "--type", "bar", "--new-sheet"},
@@ -239,7 +226,7 @@ TEST_F(SchemaTest, OutputOfTheWizardsVerbs) {
     }
   }
   // Without their table, all charts become unavailable.
-  test::EditPart(book, "/xl/workbook.xml", [](S& xml) {
+  EditPart(book, "/xl/workbook.xml", [](S& xml) {
     const auto at = xml.find("\"Data1\"");
     ASSERT_NE(at, S::npos);
     xml.replace(at, 7, "\"Gone\"");

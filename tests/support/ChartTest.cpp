@@ -5,7 +5,7 @@
 #include <set>
 #include <sstream>
 
-#include "runtime/RuntimeError.h"
+#include "tests/support/ErrorOf.h"
 #include "xlsx/SheetShape.h"
 #include "xlsx/Worksheet.h"
 
@@ -191,14 +191,7 @@ std::string Between(const std::string& text, const std::string& from, const std:
   return text.substr(begin, text.find(to, begin) - begin);
 }
 
-void ExpectError1004(const std::function<void()>& call) {
-  try {
-    call();
-    ADD_FAILURE() << "no error";
-  } catch (const runtime::RuntimeError& e) {
-    EXPECT_EQ(e.Number(), 1004) << e.Description();
-  }
-}
+void ExpectError1004(const std::function<void()>& call) { EXPECT_EQ(ErrorOf(call), 1004); }
 
 std::string ChartComplaints(const std::string& part) {
   pugi::xml_document document;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -11,7 +10,7 @@ namespace plotsmith::test {
 
 /// A view in which a test defines the user's actions. At the end it closes all open forms. It records the
 /// forms that open and close.
-class HandView final : public forms::View {
+class HandView : public forms::View {
  public:
   using Gesture = std::function<void(forms::Form& front)>;
 

@@ -113,8 +113,7 @@ std::string HostTest::Cells(const std::string& sheet, int row1, int column1, int
 
 PlainSheet SalesSheet(const std::string& name) {
   using S = std::string;
-  PlainSheet sheet;
-  sheet.name = name;
+  PlainSheet sheet{name};
   sheet.rows = {{S("Region"), S("Product"), S("Amount"), S("Cost")},
                 {S("East"), S("Widget"), 10.0, 7.5},
                 {S("West"), S("Widget"), 5.0, 4.0},
@@ -137,8 +136,7 @@ std::string Settings(std::initializer_list<const char*> settings, const std::str
 PlainBook SalesBook(const std::vector<Definition>& definitions) {
   PlainBook book;
   book.sheets.push_back(SalesSheet());
-  PlainSheet charts;
-  charts.name = "Charts";
+  PlainSheet charts{"Charts"};
   std::vector<std::string> xml;
   for (const Definition& definition : definitions) {
     const int place = static_cast<int>(charts.frames.size());

@@ -54,6 +54,10 @@ class HostTest : public ::testing::Test {
   void Refresh();
   /// Saves to a file, opens it again, and makes it the active workbook.
   xlsx::Workbook& SaveAndReopen();
+  void RefreshAndReopen() {
+    Refresh();
+    SaveAndReopen();
+  }
 
   xlsx::Workbook& Book() { return host_->Book(); }
   const std::vector<std::string>& Messages() const { return desktop_->Messages(); }

@@ -111,12 +111,14 @@ Hands HandsOnModel() {
 
 std::function<Hands()> MakeHands = HandsOnModel;
 
-PageLines::PageLines(const S& script, Actions actions) : actions_(std::move(actions)) {
-  for (std::size_t from = 0; from <= script.size();) {
+std::vector<S> LinesOf(const S& script) {
+  std::vector<S> lines;
+  for (std::size_t from = 0; from < script.size();) {
     const std::size_t to = std::min(script.find("; ", from), script.size());
-    lines_.push_back(script.substr(from, to - from));
+    if (to > from) lines.push_back(script.substr(from, to - from));
     from = to + 2;
   }
+  return lines;
 }
 
 std::optional<S> PageLines::NextLine(const forms::ScriptState& state) {

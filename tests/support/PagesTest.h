@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -20,6 +19,9 @@ namespace plotsmith::test {
 /// Functions that a test calls during a script, by name.
 using Actions = std::map<std::string, std::function<void()>>;
 
+/// Returns the lines of a script, which are separated by "; ".
+std::vector<std::string> LinesOf(const std::string& script);
+
 /// The lines of a script, separated by "; ", with additional verbs for properties that scripts of the command
 /// can't check:
 ///
@@ -36,10 +38,11 @@ using Actions = std::map<std::string, std::function<void()>>;
 /// function of the test with this name |
 class PageLines final : public forms::LineSource {
  public:
-  explicit PageLines(const std::string& script, Actions actions = {});
+  explicit PageLines(const std::string& script, Actions actions = {})
+      : lines_(LinesOf(script)), actions_(std::move(actions)) {}
   std::optional<std::string> NextLine(const forms::ScriptState& state) override;
 
-  const std::string& LastLine() const { return lines_[next_ - 1]; }
+  const std::string& LastLine() const { return lines_.at(next_ - 1); }
   std::vector<std::string> definitions;
   std::set<std::string> images;  ///< The names of all images on all pages that were open.
 

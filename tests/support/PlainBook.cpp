@@ -6,6 +6,7 @@
 #include <list>
 #include <stdexcept>
 
+#include "runtime/Strings.h"
 #include "xlsx/package/Archive.h"
 
 namespace plotsmith::test {
@@ -18,23 +19,8 @@ const std::string kPackage = "http://schemas.openxmlformats.org/package/2006/";
 const std::string kType = "application/vnd.openxmlformats-officedocument.";
 
 std::string Escaped(const std::string& text) {
-  std::string out;
-  for (const char c : text) {
-    switch (c) {
-      case '&':
-        out += "&amp;";
-        break;
-      case '<':
-        out += "&lt;";
-        break;
-      case '"':
-        out += "&quot;";
-        break;
-      default:
-        out += c;
-    }
-  }
-  return out;
+  using runtime::Replace;
+  return Replace(Replace(Replace(text, "&", "&amp;"), "<", "&lt;"), "\"", "&quot;");
 }
 
 std::string Letters(int column) {
@@ -93,8 +79,7 @@ PlainSheet& PlainBook::Sheet(const std::string& name) {
 }
 
 void PlainBook::AddDefinitions(const std::vector<std::string>& definitions) {
-  PlainSheet sheet;
-  sheet.name = "VEX_ChartDefinitions";
+  PlainSheet sheet{"VEX_ChartDefinitions"};
   sheet.state = "veryHidden";
   sheet.rows.push_back({std::string("Plotsmith Version 2.0")});
   for (const std::string& definition : definitions) sheet.rows.push_back({definition});

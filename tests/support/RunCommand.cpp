@@ -15,4 +15,9 @@ CommandResult RunCommand(std::vector<std::string> arguments, const std::string& 
   return {code, out.str(), err.str()};
 }
 
+std::vector<std::string> Joined(std::vector<std::string> arguments, const std::vector<std::string>& more) {
+  arguments.insert(arguments.end(), more.begin(), more.end());
+  return arguments;
+}
+
 }  // namespace plotsmith::test

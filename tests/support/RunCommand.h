@@ -17,4 +17,7 @@ enum class Watched { kNothing, kMessages, kEverything };
 CommandResult RunCommand(std::vector<std::string> arguments, const std::string& input = "",
                          Watched watched = Watched::kNothing);
 
+/// Returns the arguments of both lists.
+std::vector<std::string> Joined(std::vector<std::string> arguments, const std::vector<std::string>& more);
+
 }  // namespace plotsmith::test

@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <new>
-#include <optional>
 #include <set>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -4,7 +4,6 @@
 #include <libxml/parser.h>
 #include <libxml/xmlschemas.h>
 #include <stdexcept>
-#include <string_view>
 
 #include "runtime/Strings.h"
 #include "tests/support/Paths.h"

@@ -24,15 +24,7 @@ SmallForm::SmallForm(std::vector<std::string>& log, const char* name) : Form(nam
     control->GotFocus = Logged(*control, "got-focus");
     control->Validate = Logged(*control, "validate");
   }
-  LogClick(optType0);
-  LogClick(optType1);
-  LogClick(optOther0);
-  LogClick(cboValues);
-  LogClick(cboFormat);
-  LogClick(lstOne);
-  LogClick(lstMany);
-  LogClick(chk3D);
-  LogClick(grdRows);
+  LogClicks(optType0, optType1, optOther0, cboValues, cboFormat, lstOne, lstMany, chk3D, grdRows);
   grdRows.DblClick = Logged(grdRows, "double-click");
   grdRows.AfterSelChange = Logged(grdRows, "after-selection-change");
   cmdOK.Click = [this] {

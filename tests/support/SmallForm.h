@@ -1,8 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -54,9 +52,9 @@ class SmallForm : public forms::Form {
 
  private:
   forms::Event Logged(const forms::Control& control, const std::string& event);
-  template <class Kind>
-  void LogClick(Kind& control) {
-    control.Click = Logged(control, "click");
+  template <class... Kinds>
+  void LogClicks(Kinds&... controls) {
+    ((controls.Click = Logged(controls, "click")), ...);
   }
 
   std::vector<std::string>& log_;

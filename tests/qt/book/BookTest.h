@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QtCore/QEvent>
 #include <QtGui/QImage>
 #include <memory>
 #include <string>

@@ -19,13 +19,9 @@ using S = std::string;
 test::PlainBook BookOfSheets() {
   test::PlainBook book = test::SalesBook({test::Definition{}});
   book.Sheet("Charts").frames[0].row = 400;
-  test::PlainSheet notes, inner, far;
-  notes.name = "Notes & more";
-  notes.state = "hidden";
-  inner.name = "Inner";
-  inner.state = "veryHidden";
-  far.name = "Far";
-  book.sheets.insert(book.sheets.end(), {notes, inner, far});
+  book.sheets.push_back({.name = "Notes & more", .state = "hidden"});
+  book.sheets.push_back({.name = "Inner", .state = "veryHidden"});
+  book.sheets.push_back({.name = "Far"});
   book.workbookExtra = "<bookViews><workbookView activeTab=\"1\"/></bookViews>";
   return book;
 }

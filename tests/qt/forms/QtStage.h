@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include "forms/script/ScriptPlayer.h"
 #include "qt/forms/QtView.h"

@@ -16,6 +16,7 @@
 #include "forms/Buttons.h"
 #include "forms/ModalLoop.h"
 #include "qt/help/HelpWindow.h"
+#include "tests/support/HandView.h"
 #include "tests/support/Paths.h"
 
 namespace plotsmith::qt {
@@ -163,42 +164,20 @@ class HelpedForm final : public forms::Form {
   forms::CommandButton cmdHelp{*this, "cmdHelp", nullptr, "&Help"};
 };
 
-/// A view that presses Help, then operates another window, and finally closes the page.
-class BesideView final : public forms::View {
- public:
-  explicit BesideView(std::function<void()> hand) : hand_(std::move(hand)) {}
-  void Open(forms::Form&) override {}
-  void Close(forms::Form&) override {}
-  void Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds>) override {
-    QCoreApplication::processEvents();
-    auto* const page = static_cast<HelpedForm*>(loop->Front());
-    if (step_++ == 0) {
-      queue.Post(*page, [page] { page->cmdHelp.UserPress(); });
-    } else {
-      hand_();
-      queue.Post(*page, [page] { page->UserClose(); });
-    }
-  }
-  void HandleEvents(forms::EventQueue&) override {}
-
-  forms::ModalLoop* loop = nullptr;
-
- private:
-  std::function<void()> hand_;
-  int step_ = 0;
-};
-
 TEST_F(HelpWindowTest, ItTakesInputWhileAPageIsOpen) {
   S read;
-  const auto view = std::make_shared<BesideView>([&] {
+  const auto view = std::make_shared<test::HandView>();
+  const auto press = [](forms::Form& page) { dynamic_cast<HelpedForm&>(page).cmdHelp.UserPress(); };
+  const auto look = [&](forms::Form&) {
+    QCoreApplication::processEvents();
     EXPECT_TRUE(window_.isVisible());
     EXPECT_EQ(window_.windowModality(), Qt::NonModal);
     QTest::mouseClick(List().viewport(), Qt::LeftButton, Qt::NoModifier,
                       List().visualItemRect(List().item(0)).center());
     read = File();
-  });
+  };
+  view->gestures = {press, look};
   forms::ModalLoop loop(view);
-  view->loop = &loop;
   const auto page = std::make_shared<HelpedForm>();
   page->cmdHelp.Click = [this] { window_.ShowTopic(8); };
   loop.ShowModal(page);

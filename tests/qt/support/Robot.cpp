@@ -1,7 +1,6 @@
 #include "tests/qt/support/Robot.h"
 
 #include <QtTest/QtTest>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
@@ -41,16 +40,6 @@ QPushButton* FindButton(const QWidget& window, const std::string& text) {
 }
 
 }  // namespace
-
-std::vector<std::string> LinesOf(const std::string& script) {
-  std::vector<std::string> lines;
-  for (std::size_t from = 0; from < script.size();) {
-    const std::size_t to = std::min(script.find("; ", from), script.size());
-    if (to > from) lines.push_back(script.substr(from, to - from));
-    from = to + 2;
-  }
-  return lines;
-}
 
 bool PressButton(QWidget& window, const std::string& text) {
   QPushButton* const button = FindButton(window, text);

@@ -2,13 +2,12 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
-#include <functional>
-#include <map>
 #include <string>
 #include <vector>
 
 #include "forms/script/ScriptLine.h"
 #include "tests/qt/forms/QtHand.h"
+#include "tests/support/PagesTest.h"
 
 namespace plotsmith::test {
 
@@ -31,7 +30,6 @@ namespace plotsmith::test {
 /// at the end of the script, the robot closes all windows and saves nothing.
 class Robot {
  public:
-  using Actions = std::map<std::string, std::function<void()>>;
   explicit Robot(const std::string& script, Actions actions = {});
 
   /// Returns the reason why the script stopped before its end, or "".
@@ -61,8 +59,6 @@ class Robot {
   std::vector<std::string> told_;
 };
 
-/// Returns the lines of a script, which are separated by "; ".
-std::vector<std::string> LinesOf(const std::string& script);
 /// Presses a button of a window with the mouse. `text` has no "&" and no dots. Returns false if there is no
 /// such button.
 bool PressButton(QWidget& window, const std::string& text);

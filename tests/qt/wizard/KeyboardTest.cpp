@@ -3,7 +3,6 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <cstdlib>
 #include <filesystem>
@@ -28,11 +27,10 @@ class KeyboardTest : public test::ProgramTest {
   void OnEachPage(const std::function<void(qt::FormWindow& page)>& look) {
     for (const test::Way& way : test::kWays) {
       SCOPED_TRACE(way.page);
-      const auto run = Run(way.lines + "do wait; do look", {{"look", [&] {
-                                                               test::FrontPage()->activateWindow();
-                                                               look(*test::FrontPage());
-                                                             }}});
-      EXPECT_EQ(run.failure, "");
+      Run(way.lines + "do wait; do look", {{"look", [&] {
+                                              test::FrontPage()->activateWindow();
+                                              look(*test::FrontPage());
+                                            }}});
     }
   }
 };

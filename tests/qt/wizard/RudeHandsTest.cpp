@@ -2,7 +2,6 @@
 #include <QtGui/QWindow>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
 
 #include "runtime/Strings.h"
@@ -23,11 +22,9 @@ class RudeHandsTest : public test::ProgramTest {
  protected:
   RudeHandsTest() { AddChart(); }
   /// Runs a script on the program, which must not save anything.
-  test::ProgramResult RunUnsaved(const S& script, test::Robot::Actions actions) {
+  test::ProgramResult RunUnsaved(const S& script, test::Actions actions) {
     SCOPED_TRACE(script);
     const auto run = Run(script, std::move(actions));
-    EXPECT_EQ(run.failure, "");
-    EXPECT_EQ(run.code, 0);
     EXPECT_EQ(run.err, "");
     EXPECT_TRUE(BytesOf(book_) == fresh_);
     return run;
@@ -230,7 +227,7 @@ TEST_F(RudeHandsTest, BoxesAcceptAndShowTheInputThatFits) {
        S("x") + Times(8000, "\xF0\x9F\x98\x80")},
   };
   for (const test::Way& way : test::kWays) {
-    test::Robot::Actions actions;
+    test::Actions actions;
     S script = way.lines;
     int checked = 0;
     for (const Input& input : inputs) {

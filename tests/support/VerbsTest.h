@@ -12,15 +12,15 @@ namespace plotsmith::test {
 /// bucket table.
 PlainBook PlainSales();
 
-/// Tests of the verbs that use the wizard. Each test has its own files.
-class WizardVerbsTest : public ::testing::Test {
+/// Tests of the verbs of the command. Each test has its own files.
+class VerbsTest : public ::testing::Test {
  protected:
   std::string Write(const PlainBook& book, const std::string& name = "book.xlsx");
   /// Runs a script on the pages, with further arguments.
   static CommandResult Wizard(const std::string& book, const std::string& script,
-                              std::vector<std::string> more = {});
+                              const std::vector<std::string>& more = {});
   static std::string Charts(const std::string& book);
-  static std::string Definition(const std::string& book, const std::string& chart);
+  static std::string StoredDefinition(const std::string& book, const std::string& chart);
 
   TempFolder folder_;
 };
