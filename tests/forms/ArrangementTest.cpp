@@ -11,7 +11,6 @@ namespace {
 using forms::Column;
 using forms::Framed;
 using forms::Grid;
-using forms::Item;
 using forms::Layout;
 using forms::Row;
 using forms::Space;
@@ -40,10 +39,10 @@ S ArrangedText(const std::vector<forms::PlacedControl>& placed) {
 TEST(ArrangementTest, PartsShareTheRoom) {
   std::vector<S> log;
   const test::SmallForm form(log);
-  const auto box = [&] { return Item(form.cboValues); };
-  const auto other = [&] { return Item(form.txtTitle); };
-  const auto option = [&] { return Item(form.optType0); };
-  const auto list = [&] { return Item(form.lstOne).AtLeast(20, 4); };
+  const auto box = [&] { return forms::Item(form.cboValues); };
+  const auto other = [&] { return forms::Item(form.txtTitle); };
+  const auto option = [&] { return forms::Item(form.optType0); };
+  const auto list = [&] { return forms::Item(form.lstOne).AtLeast(20, 4); };
   const struct {
     Layout layout;
     S least, placed;
@@ -57,7 +56,8 @@ TEST(ArrangementTest, PartsShareTheRoom) {
       {Row({option(), list().Stretch(1)}), "31x12", "optType(0) 0,0 10x4; lstOne 11,0 29x30; "},
       {Grid(2, {box(), other().Stretch(1), option(), list()}), "31x17",
        "cboValues 0,0 10x4; txtTitle 11,0 29x4; optType(0) 0,15 10x4; lstOne 11,5 29x25; "},
-      {Stack({Item(form.imgBar), Item(form.imgPie)}), "10x4", "imgBar 0,0 40x30; imgPie 0,0 40x30; "},
+      {Stack({forms::Item(form.imgBar), forms::Item(form.imgPie)}), "10x4",
+       "imgBar 0,0 40x30; imgPie 0,0 40x30; "},
       {Framed(form.Frame1, other()), "12x7", "Frame1 0,0 40x30; txtTitle 1,2 38x27; "},
   };
   const PlainMeasures measures;
