@@ -13,11 +13,10 @@ namespace plotsmith::cli {
 struct CommandLine {
   /// Declares all verbs with their options.
   CommandLine();
-  /// Declares all verbs without their options.
-  ///@{
+  /// Asks the constructor for the verbs without their options.
   struct VerbsOnly {};
+  /// Declares all verbs without their options.
   explicit CommandLine(VerbsOnly);
-  ///@}
 
   /// Declares the options of the verb with this name, or of all verbs if none has the name. To run one verb,
   /// call this once for it: the options of all verbs take as long as a small workbook takes to open.
