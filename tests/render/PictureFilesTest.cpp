@@ -1,9 +1,13 @@
 #include <pugixml.hpp>
+#include <set>
 
 #include "render/cairo/CairoPainter.h"
+#include "render/cairo/PangoTexts.h"
 #include "render/cairo/PixelGrid.h"
+#include "render/fonts/PlainFonts.h"
 #include "render/svg/SvgPaint.h"
 #include "render/svg/SvgWriter.h"
+#include "runtime/Strings.h"
 #include "tests/render/DrawingTest.h"
 
 namespace plotsmith {
@@ -201,44 +205,75 @@ TEST_F(PictureFilesTest, FontsHaveTheWidthsOfTheFiles) {
   EXPECT_NEAR(extent.Height(), 12.2, 0.1);
 }
 
-TEST_F(PictureFilesTest, FontsWithAndWithoutCairoMeasureTheSame) {
-  const render::Fonts fonts;
-  const S texts[] = {"0",
+TEST_F(PictureFilesTest, PlainTextsAreAsWideAsPangoMakesThem) {
+  const render::PangoTexts pango;
+  std::set<S> withOthers;  // families of which Pango measured a text
+  S family;
+  const render::PlainFonts fonts([&]() -> const render::TextMeasure& {
+    withOthers.insert(family);
+    return pango;
+  });
+  S letters, common;
+  for (char32_t c = U'\u00c0'; c <= U'\u017f'; ++c) {
+    if (c != U'\u00d7' && c != U'\u00f7' && c != U'\u0149') runtime::AppendUtf8(letters, c);
+  }
+  for (char c = 0x20; c < 0x7f; ++c) common += c;
+  const S texts[] = {"",
+                     "0",
                      "12,345.67 %",
-                     "To AVAToWe fi ffl",
-                     "Gr\u00fc\u00dfe aus \u0141\u00f3d\u017a",
-                     "\u2212\u221e\u00b7",
-                     ""};
-  for (const char* const family : {"Calibri", "Arial", "Cambria", "Liberation Mono", "No such font", ""}) {
+                     "To AV AWAY",
+                     "office fi ffl",
+                     " a  b ",
+                     "(x+y)/2 = \"q\"",
+                     "Gr\u00fc\u00dfe aus \u0141\u00f3d\u017a \u2026",
+                     "\u201cA\u201d \u2013 \u20ac 5 \u2212 3\u00b7\u00b2",
+                     "\u2013 5 \u2212",
+                     letters,
+                     common};
+  for (const char* const name :
+       {"Calibri", "Arial", "Cambria", "Times New Roman", "Liberation Mono", "No such font", ""}) {
+    family = name;
     for (const double size : {6.0, 10.0, 10.5, 11.3, 96.0}) {
-      for (const bool bold : {false, true}) {
+      for (const int look : {0, 1, 2, 3, 4}) {
+        const render::Font font{family, size, (look & 1) != 0, (look & 2) != 0, look == 4};
         for (const S& text : texts) {
-          const render::Font font{family, size, bold, !bold};
-          const auto measured = fonts.Measure(text, font), painted = SharedFonts().Measure(text, font);
-          EXPECT_EQ(measured.width, painted.width) << family << " " << size << ": " << text;
-          EXPECT_EQ(measured.ascent, painted.ascent) << family;
-          EXPECT_EQ(measured.descent, painted.descent) << family;
+          const auto plain = fonts.Measure(text, font), laidOut = pango.Measure(text, font);
+          EXPECT_EQ(plain.width, laidOut.width) << family << " " << size << " " << look << ": " << text;
+          EXPECT_EQ(plain.ascent, laidOut.ascent) << family;
+          EXPECT_EQ(plain.descent, laidOut.descent) << family;
         }
       }
     }
   }
+  EXPECT_EQ(withOthers, std::set<S>{"Cambria"});  // Its substitute Caladea doesn't have all of the letters.
 }
 
-TEST_F(PictureFilesTest, PlainTextsAreAsWideAsOthers) {
-  constexpr const char* kZeroWidth = "\u2060";  // With it, a text is measured in another way.
-  const auto width = [](const S& text, const render::Font& font) {
-    return SharedFonts().Measure(text, font).width;
-  };
-  for (const render::Font& font : {render::Font{"Calibri", 10}, render::Font{"Arial", 9.5, true, true},
-                                   render::Font{"No such font", 12, false, false, true}}) {
-    for (const S text :
-         {"1,234.5 %", "To AV AWAY", "office fi ffl", " a  b ", "(x+y)/2 = \"q\"", "#,##0;-$"}) {
-      EXPECT_EQ(width(text, font), width(text + kZeroWidth, font)) << font.family << ": " << text;
+TEST_F(PictureFilesTest, OtherTextsAreLeftToPango) {
+  struct Counting : render::TextMeasure {
+    render::TextExtent Measure(std::string_view line, const render::Font&) const override {
+      asked.emplace_back(line);
+      return {};
     }
-  }
-  // Letters move together.
-  const render::Font calibri{"Calibri", 10};
-  EXPECT_LT(width("AV", calibri), width("A", calibri) + width("V", calibri));
+    bool HasFonts() const override { return true; }
+    mutable std::vector<S> asked;
+  } others;
+  const render::PlainFonts fonts([&]() -> const render::TextMeasure& { return others; });
+  const std::vector<S> texts = {"\u05d0",
+                                "a\u0301",
+                                "a\tb",
+                                "1\u00d72",
+                                "\xc3",
+                                "a\xff"
+                                "b",
+                                "\U0001f600",
+                                "a\u2060",
+                                S(5000, 'a'),
+                                "\u4e2d"};
+  for (const S& text : texts) fonts.Measure(text, {"Calibri", 10});
+  EXPECT_EQ(others.asked, texts);
+  others.asked.clear();
+  fonts.Measure("a", {"Calibri, Arial", 10});
+  EXPECT_EQ(others.asked, std::vector<S>{"a"});
 }
 
 }  // namespace

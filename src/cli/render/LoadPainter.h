@@ -11,7 +11,7 @@ namespace plotsmith::cli {
 /// version.
 ///@{
 /// Returns the measure of texts for pictures without a painter, such as SVG. It loads faster than the
-/// painter. The two measure the same, except for characters that no font has.
+/// painter, and measures the same. It loads the painter for texts that need Pango.
 const render::TextMeasure& LoadFonts();
 /// Returns the painter.
 const render::Painter& LoadPainter();

@@ -44,9 +44,9 @@ Function* Find(void* module, const char* name) {
   return reinterpret_cast<Function*>(dlsym(module, name));
 }
 
-/// Loads a module and returns what its function returns.
+/// Loads a module and returns its function.
 template <class Function>
-auto Load(const char* file, const char* function) {
+Function* Load(const char* file, const char* function) {
   const fs::path path = FindModule(file);
   const auto refuse = [&](const std::string& why) -> CommandError {
     return CommandError(exit_code::kUsage, "nothing can be drawn: \"" + path.string() + "\" " + why + ".");
@@ -64,20 +64,21 @@ auto Load(const char* file, const char* function) {
     throw refuse("is of version " + std::string(version()) + ", and this program of version " +
                  PLOTSMITH_VERSION);
   }
-  return entry();
+  return entry;
 }
 
 }  // namespace
 
 const render::TextMeasure& LoadFonts() {
   static const render::TextMeasure& fonts =
-      *Load<render::ModuleMeasure>(render::kFontsFile, render::kMeasureFunction);
+      *Load<render::ModuleMeasure>(render::kFontsFile, render::kMeasureFunction)(
+          []() -> const render::TextMeasure& { return LoadPainter().Measure(); });
   return fonts;
 }
 
 const render::Painter& LoadPainter() {
   static const render::Painter& painter = []() -> const render::Painter& {
-    const auto* const loaded = Load<render::ModulePainter>(render::kPainterFile, render::kPainterFunction);
+    const auto* const loaded = Load<render::ModulePainter>(render::kPainterFile, render::kPainterFunction)();
     loaded->Measure();  // This reads the list of fonts here, because threads that need it at the same time
                         // would each read it.
     return *loaded;
