@@ -1,5 +1,7 @@
 #include "cli/render/LoadPainter.h"
 
+#include <exception>
+
 #include "cli/Command.h"
 #include "render/TextMeasure.h"
 
@@ -13,7 +15,7 @@ void LoadMeasureAhead(PictureFormat format) {
   try {
     // Most charts have their texts in this font. Finding a font takes longer than drawing a chart.
     LoadMeasure(format).Measure("0", render::Font{"Calibri", 10});
-  } catch (const CommandError&) {
+  } catch (const std::exception&) {
     // LoadMeasure will report the error again
   }
 }

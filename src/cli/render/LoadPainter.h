@@ -19,8 +19,8 @@ const render::Painter& LoadPainter();
 const render::TextMeasure& LoadMeasure(PictureFormat format);
 ///@}
 
-/// Loads the measure and the most common font. Another thread calls LoadMeasure, which waits for this and
-/// reports a failure.
+/// Loads the measure and the most common font. Throws nothing: another thread calls LoadMeasure, which waits
+/// for this and reports a failure.
 void LoadMeasureAhead(PictureFormat format);
 /// Reports on `streams` if no font is installed. Returns true in that case.
 bool ReportMissingFonts(const render::TextMeasure& measure, const Streams& streams);

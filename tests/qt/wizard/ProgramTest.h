@@ -27,7 +27,7 @@ class ProgramTest : public ::testing::Test {
   /// Runs the program with a script for the robot, which must play to its end. Expects the exit code 0.
   ProgramResult Run(const std::string& script, Actions actions = {},
                     const std::optional<std::string>& output = std::nullopt);
-  /// Runs the program, whatever comes of the script.
+  /// Runs the program. The script may stop before its end, and the exit code may be any.
   ProgramResult RunFreely(const std::string& script, Actions actions = {},
                           const std::optional<std::string>& output = std::nullopt);
 
