@@ -43,12 +43,23 @@ expect() { # DESCRIPTION, then a command that must succeed
   fi
 }
 
+# Waits until a window with this title is visible, and prints its ID: TITLE. One search walks the tree of windows,
+# and it ends with an X error when a window of that tree closes meanwhile. So each attempt is a search of its own.
+visible() {
+  for _ in $(seq 200); do
+    window=$(timeout 5 xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -1)
+    [ -z "$window" ] || { echo "$window"; return; }
+    sleep 0.1
+  done
+  echo "failed: no window with the title $1 appeared" >&2
+  return 1
+}
+
 # Waits until the window with this title is active, and sends it keys: TITLE KEY...
 keys() {
   title=$1
   shift
-  window=$(timeout 20 xdotool search --sync --onlyvisible --name "$title" | tail -1)
-  [ -n "$window" ] || { echo "failed: no window with the title $title appeared" >&2; exit 1; }
+  window=$(visible "$title") || exit 1
   timeout 5 xdotool windowactivate --sync "$window" 2>/dev/null || true
   sleep 0.5 # the keyboard focus follows the window after a moment
   for key in "$@"; do
