@@ -264,18 +264,18 @@ void Formula(const std::uint8_t* data, std::size_t size) {
 }
 
 constexpr Target kAll[] = {
-    {"package", Package},
-    {"workbook", Workbook},
-    {"sheet", Sheet},
-    {"shared-strings", SharedStrings},
-    {"styles", Styles},
-    {"drawing", Drawing},
-    {"chart", Chart},
-    {"definition", Definition},
-    {"formula", Formula},
-    {"number-format", NumberFormat},
-    {"chart-shapes", ChartShapes},
-    {"wizard", Wizard},
+    {"package", Package, Form::kZip},
+    {"workbook", Workbook, Form::kZip},
+    {"sheet", Sheet, Form::kXml},
+    {"shared-strings", SharedStrings, Form::kXml},
+    {"styles", Styles, Form::kXml},
+    {"drawing", Drawing, Form::kXml},
+    {"chart", Chart, Form::kXml},
+    {"definition", Definition, Form::kXml},
+    {"formula", Formula, Form::kBytes},
+    {"number-format", NumberFormat, Form::kBytes},
+    {"chart-shapes", ChartShapes, Form::kXml},
+    {"wizard", Wizard, Form::kBytes},
 };
 
 }  // namespace
