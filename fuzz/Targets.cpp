@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <sys/mman.h>
@@ -144,40 +145,50 @@ void Styles(const std::uint8_t* data, std::size_t size) {
 }
 
 constexpr const char* kChartPart = "/xl/charts/chart1.xml";
+constexpr const char* kDefinition =
+    "<chart id=\"VEX_Chart1\" type=\"area\" title=\"T\" table-id=\"Data1\"><categories "
+    "headings-in=\"rows\"><column name=\"Region\"/></categories><series headings-in=\"columns\"><column "
+    "name=\"Amount\"/></series><axes><axis type=\"label\" label=\"L\"/><axis type=\"value\" "
+    "label=\"V\"/></axes>"
+    "<data-labels><data-label show=\"values\"/></data-labels><dynamic-attributes><attribute "
+    "setting=\"3D\"/></dynamic-attributes><comment>C</comment><auto-persistence><persist "
+    "property=\"legend-visibility\" value=\"show\"/></auto-persistence></chart>";
 
-/// Makes a workbook with a drawing and a chart, one of them consisting of the bytes, and refreshes it. The
-/// chart is drawn before and after.
-void RefreshWith(const char* part, std::string_view bytes) {
+/// Returns a workbook with a table, a chart and its definition. It is saved only once, because a save takes
+/// longer than what a target does with it.
+const MemoryFile& BookWithChart() {
+  static const MemoryFile file = [] {
+    const auto host = xlsx::Application::Create();
+    auto& book = host->NewWorkbook();
+    const auto data = book.AllSheets()[0]->worksheet;
+    data->SetName("Data1");
+    data->SetCellValueAt(1, 1, "Region");
+    data->SetCellValueAt(1, 2, "Amount");
+    data->SetCellValueAt(2, 1, "East");
+    data->SetCellValueAt(2, 2, 5.0);
+    data->ChartObjects()->Add(0, 0, 100, 100);
+    data->Shapes()->Item(1)->SetAlternativeText("VEX_Chart1");
+    const auto definitions = book.AddWorksheet(1);
+    definitions->SetName("VEX_ChartDefinitions");
+    definitions->SetVisible(excel::xlSheetVeryHidden);
+    definitions->SetCellValueAt(2, 1, kDefinition);
+    std::ostringstream bytes;
+    book.Save(bytes);
+    const std::string text = std::move(bytes).str();
+    return MemoryFile(reinterpret_cast<const std::uint8_t*>(text.data()), text.size());
+  }();
+  return file;
+}
+
+/// Lets `change` change the workbook with a chart, and refreshes it before and after a save. The chart is
+/// drawn each time.
+template <class Change>
+void RefreshAfter(const Change& change) {
   const auto host = xlsx::Application::Create();
-  auto& book = host->NewWorkbook();
-  const auto data = book.AllSheets()[0]->worksheet;
-  data->SetName("Data1");
-  data->SetCellValueAt(1, 1, "Region");
-  data->SetCellValueAt(1, 2, "Amount");
-  data->SetCellValueAt(2, 1, "East");
-  data->SetCellValueAt(2, 2, 5.0);
-  data->ChartObjects()->Add(0, 0, 100, 100);
-  data->Shapes()->Item(1)->SetAlternativeText("VEX_Chart1");
-  const auto definitions = book.AddWorksheet(1);
-  definitions->SetName("VEX_ChartDefinitions");
-  definitions->SetVisible(excel::xlSheetVeryHidden);
-  const std::string chart =
-      "<chart id=\"VEX_Chart1\" type=\"area\" title=\"T\" table-id=\"Data1\"><categories "
-      "headings-in=\"rows\"><column "
-      "name=\"Region\"/></categories><series headings-in=\"columns\"><column "
-      "name=\"Amount\"/></series><axes><axis "
-      "type=\"label\" label=\"L\"/><axis type=\"value\" label=\"V\"/></axes><data-labels><data-label "
-      "show=\"values\"/>"
-      "</data-labels><dynamic-attributes><attribute setting=\"3D\"/></dynamic-attributes><comment>C</comment>"
-      "<auto-persistence><persist property=\"legend-visibility\" value=\"show\"/></auto-persistence></chart>";
-  definitions->SetCellValueAt(2, 1, std::string(part) == "definition" ? std::string(bytes) : chart);
-  // Replace the part in the saved workbook, and open it again.
   const std::string path = TemporaryBook();
-  book.Save(path);
   Tolerate([&] {
-    host->Open(path);
-    auto& package = host->Book().Package();
-    if (package.Has(part)) package.Replace(part, std::string(bytes));
+    host->Open(BookWithChart().Path());
+    change(host->Book());
     Tolerate([&] { DrawPictures(host->Book(), kChartPart); });
     Refresh(host);
     Tolerate([&] { DrawPictures(host->Book(), kChartPart); });
@@ -188,12 +199,19 @@ void RefreshWith(const char* part, std::string_view bytes) {
   unlink(path.c_str());
 }
 
-void Chart(const std::uint8_t* data, std::size_t size) { RefreshWith(kChartPart, Text(data, size)); }
+void RefreshWithPart(const char* part, std::string_view bytes) {
+  RefreshAfter([&](xlsx::Workbook& book) { book.Package().Replace(part, std::string(bytes)); });
+}
+
+void Chart(const std::uint8_t* data, std::size_t size) { RefreshWithPart(kChartPart, Text(data, size)); }
 void Drawing(const std::uint8_t* data, std::size_t size) {
-  RefreshWith("/xl/drawings/drawing1.xml", Text(data, size));
+  RefreshWithPart("/xl/drawings/drawing1.xml", Text(data, size));
 }
 void Definition(const std::uint8_t* data, std::size_t size) {
-  if (size < 30000 && size > 0 && data[0] == '<') RefreshWith("definition", Text(data, size));
+  if (size == 0 || size >= 30000 || data[0] != '<') return;
+  RefreshAfter([&](xlsx::Workbook& book) {
+    book.AllSheets()[1]->worksheet->SetCellValueAt(2, 1, std::string(Text(data, size)));
+  });
 }
 
 /// Draws the shapes on a chart, reads, formats and moves each, and finally groups or deletes them.
