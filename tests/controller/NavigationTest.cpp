@@ -101,6 +101,18 @@ TEST_F(NavigationTest, FinishStopsAtTheFirstInvalidPage) {
   EXPECT_EQ(Messages().back(), "Brindle Plotsmith: PSController.JumpFinish\nUnknown chart type");
 }
 
+TEST_F(NavigationTest, ARunWithoutTablesEndsBeforeItsMessage) {
+  PlainBook book;
+  book.sheets.push_back({"Sheet1"});
+  Open(book);
+  EXPECT_EQ(Run({}), "");
+  EXPECT_EQ(Messages(), (std::vector<S>{"Brindle Plotsmith: This workbook contains no tables. You must create "
+                                        "one in order to run the Plotsmith."}));
+  const S off = "Application.ScreenUpdating = False", on = "Application.ScreenUpdating = True";
+  EXPECT_EQ(std::vector<S>(journal_.end() - 3, journal_.end()), (std::vector<S>{off, on, on}))
+      << "the run ends, then shows its message, and ends again";
+}
+
 TEST_F(NavigationTest, MessagesAndErrors) {
   Open(SalesBook({{"VEX_Chart1"}}));
   PSJumpToStep(2, 1, nullptr);
