@@ -1,5 +1,5 @@
 #include "render/model/Analysis.h"
-#include "tests/render/DrawingTest.h"
+#include "tests/render/analysis/AnalysisTest.h"
 
 namespace plotsmith {
 namespace {
@@ -8,112 +8,9 @@ using namespace test;
 using render::FitTrend;
 using render::TrendKind;
 
-const S kZeroToTen = ScalingXml("0", "10");
+using TrendlinesTest = AnalysisTest;
 
-/// Error bars of a kind with an amount. `look` is their last element.
-S ErrorBarsXml(const S& kind, const S& amount, const S& more = "", const S& ends = "both",
-               const S& look = "") {
-  return "<c:errBars>" + (more.find("errDir") == S::npos ? "<c:errDir val=\"y\"/>" : S()) +
-         "<c:errBarType val=\"" + ends + "\"/><c:errValType val=\"" + kind + "\"/>" + more + "<c:val val=\"" +
-         amount + "\"/>" + look + "</c:errBars>";
-}
-
-S TrendXml(const S& type, const S& more = "") {
-  return "<c:trendline><c:trendlineType val=\"" + type + "\"/>" + more + "</c:trendline>";
-}
-
-class AnalysisTest : public DrawingTest {
- protected:
-  Drawing DrawGroup(const S& element, const S& first, const S& series, const S& value = kZeroToTen,
-                    const S& behind = "") {
-    return Draw(PlotXml(GroupXml(element, first, series) + AxesXml("", value), behind));
-  }
-  Drawing DrawColumns(const Numbers& values, const S& more, const S& value = kZeroToTen) {
-    return DrawGroup("barChart", "<c:barDir val=\"col\"/>", SeriesXml(0, values, more), value);
-  }
-  /// Returns the values, on an axis from 0 to 10, at the upper and the lower ends of items.
-  static std::vector<std::pair<double, double>> EndsOf(const Drawing& drawing, Role role) {
-    const Rect plot = BoxOf(drawing, Role::kPlotArea);
-    std::vector<std::pair<double, double>> ends;
-    const auto valueAt = [&](double y) { return std::round((plot.Bottom() - y) / plot.height * 1e7) / 1e6; };
-    for (const Rect& box : BoxesOf(drawing, role)) ends.emplace_back(valueAt(box.top), valueAt(box.Bottom()));
-    return ends;
-  }
-};
-
-TEST_F(AnalysisTest, ErrorBarsReachAsFarAsTheirAmounts) {
-  using Ends = std::vector<std::pair<double, double>>;
-  const S custom = NumbersXml("plus", {1, 2, 3}) + NumbersXml("minus", {0.5, 1, kNoValue});
-  struct {
-    const char* what;
-    S bars;
-    Ends ends;
-  } const kCases[] = {
-      {"fixed", ErrorBarsXml("fixedVal", "1.5"), {{3.5, 0.5}, {5.5, 2.5}, {7.5, 4.5}}},
-      {"plus", ErrorBarsXml("fixedVal", "1", "", "plus"), {{3, 2}, {5, 4}, {7, 6}}},
-      {"minus", ErrorBarsXml("fixedVal", "1", "", "minus"), {{2, 1}, {4, 3}, {6, 5}}},
-      {"percentage", ErrorBarsXml("percentage", "50"), {{3, 1}, {6, 2}, {9, 3}}},
-      {"custom", ErrorBarsXml("cust", "0", custom), {{3, 1.5}, {6, 3}, {9, 6}}},
-      {"one custom amount for all",
-       ErrorBarsXml("cust", "0", NumbersXml("plus", {1}) + NumbersXml("minus", {2})),
-       {{3, 0}, {5, 2}, {7, 4}}},
-      // The mean is 4, and the standard deviation of the sample is 2.
-      {"standard deviation about the mean", ErrorBarsXml("stdDev", "1"), {{6, 2}, {6, 2}, {6, 2}}},
-      {"standard error",
-       ErrorBarsXml("stdErr", "1"),
-       {{3.154701, 0.845299}, {5.154701, 2.845299}, {7.154701, 4.845299}}},
-  };
-  for (const auto& test : kCases) {
-    const Drawing drawing = DrawColumns({2, 4, 6}, test.bars);
-    EXPECT_EQ(EndsOf(drawing, Role::kErrorBar), test.ends) << test.what;
-    EXPECT_EQ(notes_, render::Notes()) << test.what;
-  }
-}
-
-TEST_F(AnalysisTest, ErrorBarsHaveTheirPlaceLineAndCaps) {
-  for (const bool caps : {true, false}) {
-    const S noCap = S("<c:noEndCap val=\"") + (caps ? "0" : "1") + "\"/>";
-    const Drawing drawing =
-        DrawColumns({2, 4}, ErrorBarsXml("fixedVal", "1", noCap, "both", LookXml("", SolidXml("00B050"))));
-    const auto items = ItemsOf(drawing, Role::kErrorBar, 1);
-    ASSERT_EQ(items.size(), 2u);
-    for (std::size_t i = 0; i < 2; ++i) {
-      const auto& path = std::get<PathItem>(items[i].content);
-      EXPECT_NEAR(path.path.Bounds().Center().x, BoxesOf(drawing, Role::kBar)[i].Center().x, 1e-9);
-      EXPECT_NEAR(path.path.Bounds().width, caps ? 6 : 0, 1e-9);
-      EXPECT_EQ(path.path.Steps().size(), caps ? 6u : 2u);
-      EXPECT_EQ(HexOf(path.stroke.color), "#00B050");
-      EXPECT_EQ(path.stroke.width, 2);
-      EXPECT_EQ(items[i].tag.point, static_cast<int>(i + 1));
-    }
-  }
-}
-
-TEST_F(AnalysisTest, ErrorBarsOfScatterChartsGoBothWays) {
-  const S bars = ErrorBarsXml("fixedVal", "1") + ErrorBarsXml("fixedVal", "2", "<c:errDir val=\"x\"/>");
-  const S series = PointsXml(0, {5}, {4}, bars);
-  const S axes = ValueAxesXml(kZeroToTen, kZeroToTen);
-  const Drawing drawing = Draw(PlotXml(GroupXml("scatterChart", "", series) + axes));
-  const Rect plot = BoxOf(drawing, Role::kPlotArea);
-  const auto boxes = BoxesOf(drawing, Role::kErrorBar);
-  ASSERT_EQ(boxes.size(), 2u);
-  EXPECT_NEAR(boxes[0].height, plot.height / 5, 1e-9);
-  EXPECT_NEAR(boxes[0].Center().x, plot.left + plot.width / 2, 1e-9);
-  EXPECT_NEAR(boxes[1].width, plot.width * 0.4, 1e-9);
-  EXPECT_NEAR(boxes[1].Center().y, plot.top + plot.height * 0.6, 1e-9);
-}
-
-TEST_F(AnalysisTest, AxesHaveRoomForErrorBarsAndExtendedTrendlines) {
-  const auto last = [&](const S& more) {
-    return TextsOf(DrawColumns({1, 2, 3}, more, ""), Role::kTickLabel, 2).back();
-  };
-  EXPECT_EQ(last(""), "3.5");
-  EXPECT_EQ(last(ErrorBarsXml("fixedVal", "40")), "50");
-  EXPECT_EQ(last(TrendXml("linear")), "3.5");
-  EXPECT_EQ(last(TrendXml("linear", "<c:forward val=\"5\"/>")), "9");
-}
-
-TEST_F(AnalysisTest, CurvesAreFoundByLeastSquares) {
+TEST_F(TrendlinesTest, CurvesAreFoundByLeastSquares) {
   const auto points = [](auto curve) {
     std::pair<Numbers, Numbers> all;
     for (int i = 1; i <= 9; ++i) {
@@ -161,7 +58,7 @@ TEST_F(AnalysisTest, CurvesAreFoundByLeastSquares) {
   }
 }
 
-TEST_F(AnalysisTest, NoCurveIsFoundWithoutEnoughPoints) {
+TEST_F(TrendlinesTest, NoCurveIsFoundWithoutEnoughPoints) {
   struct {
     TrendKind kind;
     std::size_t order;
@@ -186,7 +83,7 @@ TEST_F(AnalysisTest, NoCurveIsFoundWithoutEnoughPoints) {
   EXPECT_NEAR(huge->At(5e307) / 5e307, 1, 1e-9);
 }
 
-TEST_F(AnalysisTest, NumbersInEquationsHaveFiveDigits) {
+TEST_F(TrendlinesTest, NumbersInEquationsHaveFiveDigits) {
   const std::pair<double, S> kCases[] = {{0.942857, "0.9429"}, {14.28571, "14.286"}, {103.5714, "103.57"},
                                          {123456.7, "123457"}, {-2, "-2"},           {0, "0"},
                                          {0.00021, "0.0002"},  {999999.4, "999999"}, {999999.6, "1E+06"},
@@ -196,7 +93,7 @@ TEST_F(AnalysisTest, NumbersInEquationsHaveFiveDigits) {
   for (const auto& [number, text] : kCases) EXPECT_EQ(render::EquationNumber(number), text);
 }
 
-TEST_F(AnalysisTest, TrendlinesGoThroughTheirPointsAndBeyond) {
+TEST_F(TrendlinesTest, TrendlinesGoThroughTheirPointsAndBeyond) {
   const S line = "<c:name>Trend</c:name>" + LookXml("", SolidXml("7030A0"));
   S trend = TrendXml("linear", "<c:forward val=\"2\"/><c:backward val=\"0.5\"/>");
   trend.insert(S("<c:trendline>").size(), line);
@@ -216,7 +113,7 @@ TEST_F(AnalysisTest, TrendlinesGoThroughTheirPointsAndBeyond) {
   EXPECT_NEAR(box.top, plot.top, 1e-6);
 }
 
-TEST_F(AnalysisTest, MovingAveragesBeginAtTheirFirstWholePeriod) {
+TEST_F(TrendlinesTest, MovingAveragesBeginAtTheirFirstWholePeriod) {
   const Drawing drawing =
       DrawColumns({1, 3, 5, kNoValue, 9, 7}, TrendXml("movingAvg", "<c:period val=\"2\"/>"));
   const auto items = ItemsOf(drawing, Role::kTrendline);
@@ -229,7 +126,7 @@ TEST_F(AnalysisTest, MovingAveragesBeginAtTheirFirstWholePeriod) {
   EXPECT_EQ(values, (Numbers{2, 4}));  // A single point behind the gap is no line.
 }
 
-TEST_F(AnalysisTest, TrendlinesSayTheirEquationAndHaveLegendEntries) {
+TEST_F(TrendlinesTest, TrendlinesSayTheirEquationAndHaveLegendEntries) {
   const S label = "<c:dispRSqr val=\"1\"/><c:dispEq val=\"1\"/>";
   const S format = "<c:trendlineLbl><c:numFmt formatCode=\"0.000\" sourceLinked=\"0\"/></c:trendlineLbl>";
   const S series =
@@ -248,33 +145,7 @@ TEST_F(AnalysisTest, TrendlinesSayTheirEquationAndHaveLegendEntries) {
   EXPECT_EQ(DrawingComplaints(drawing), "");
 }
 
-TEST_F(AnalysisTest, UpDownBarsGoFromTheFirstSeriesToTheLast) {
-  const S bars = "<c:upDownBars><c:gapWidth val=\"100\"/><c:upBars/><c:downBars>" +
-                 LookXml(SolidXml("C00000")) + "</c:downBars></c:upDownBars>";
-  const Drawing drawing = Draw(PlotXml(
-      LinesXml(SeriesXml(0, {2, 8, 5}) + SeriesXml(1, {9, 9, 9}) + SeriesXml(2, {6, 3, kNoValue}), bars) +
-      AxesXml("", kZeroToTen)));
-  EXPECT_EQ(notes_, render::Notes());
-  EXPECT_EQ(EndsOf(drawing, Role::kUpDownBar), (std::vector<std::pair<double, double>>{{6, 2}, {8, 3}}));
-  const auto items = ItemsOf(drawing, Role::kUpDownBar);
-  ASSERT_EQ(items.size(), 2u);
-  EXPECT_EQ(FillOf(items[0]), "#FFFFFF");
-  EXPECT_EQ(FillOf(items[1]), "#C00000");
-  const Rect plot = BoxOf(drawing, Role::kPlotArea);
-  EXPECT_NEAR(BoundsOf(items[0]).width, plot.width / 3 / 2, 1e-9);
-  EXPECT_NEAR(BoundsOf(items[1]).Center().x, plot.Center().x, 1e-9);
-}
-
-TEST_F(AnalysisTest, ErrorBarsOfSharesAreShares) {
-  const S first = "<c:barDir val=\"col\"/><c:grouping val=\"percentStacked\"/><c:overlap val=\"100\"/>";
-  const S toOne = ScalingXml("0", "1");
-  const Drawing drawing = DrawGroup(
-      "barChart", first, SeriesXml(0, {2, 3}, ErrorBarsXml("fixedVal", "1")) + SeriesXml(1, {2, 2}), toOne);
-  // wholes of 4 and 5, in tenths of the axis
-  EXPECT_EQ(EndsOf(drawing, Role::kErrorBar), (std::vector<std::pair<double, double>>{{7.5, 2.5}, {8, 4}}));
-}
-
-TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
+TEST_F(TrendlinesTest, DatesGoOnForTrendlines) {
   const S trend = TrendXml("linear", "<c:forward val=\"4\"/><c:dispEq val=\"1\"/>");
   const S series = SeriesXml(0, {1, 2, 3}, trend, "", NumbersXml("cat", {45000, 45001, 45002}));
   const Drawing drawing = Draw(PlotXml(ColumnsXml(series) + DateAxesXml()));
@@ -286,7 +157,7 @@ TEST_F(AnalysisTest, DatesGoOnForTrendlines) {
   EXPECT_EQ(TextsOf(drawing, Role::kTrendlineLabel), Texts{"y = x - 44999"});
 }
 
-TEST_F(AnalysisTest, DatesBeginEarlierForTrendlines) {
+TEST_F(TrendlinesTest, DatesBeginEarlierForTrendlines) {
   const auto back = [](const S& length) {
     return TrendXml("linear", "<c:backward val=\"" + length + "\"/><c:dispEq val=\"1\"/>");
   };
@@ -324,7 +195,7 @@ TEST_F(AnalysisTest, DatesBeginEarlierForTrendlines) {
   }
 }
 
-TEST_F(AnalysisTest, LegendsHaveEntriesOfDrawnTrendlinesOnly) {
+TEST_F(TrendlinesTest, LegendsHaveEntriesOfDrawnTrendlinesOnly) {
   const S unfit = "A trendline isn't drawn because no line of its kind fits the points of its series.";
   const S longest = "A moving average isn't drawn because its period isn't shorter than its series.";
   const S beyond = "A trendline isn't drawn because fewer than two of its points are on the axes.";
@@ -366,7 +237,7 @@ TEST_F(AnalysisTest, LegendsHaveEntriesOfDrawnTrendlinesOnly) {
   }
 }
 
-TEST_F(AnalysisTest, AxesHaveRoomOnlyForWhatIsSeen) {
+TEST_F(TrendlinesTest, AxesHaveRoomOnlyForWhatIsSeen) {
   // A line can't begin before the first category, and its end there needs no negative values.
   const Drawing drawing = DrawColumns({10, 20, 30}, TrendXml("linear", "<c:backward val=\"9\"/>"), "");
   EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2).front(), "0");
@@ -374,7 +245,7 @@ TEST_F(AnalysisTest, AxesHaveRoomOnlyForWhatIsSeen) {
             (render::Notes{"The backward forecast of a trendline ends where the category axis begins."}));
 }
 
-TEST_F(AnalysisTest, CurvesKeepTheirSlopeWhereTheyLeaveThePlotArea) {
+TEST_F(TrendlinesTest, CurvesKeepTheirSlopeWhereTheyLeaveThePlotArea) {
   const Drawing drawing = DrawColumns({1, 1e3, 1e6, 1e9}, TrendXml("exp"));
   const Rect plot = BoxOf(drawing, Role::kPlotArea);
   const auto items = ItemsOf(drawing, Role::kTrendline);
@@ -388,7 +259,7 @@ TEST_F(AnalysisTest, CurvesKeepTheirSlopeWhereTheyLeaveThePlotArea) {
   EXPECT_NEAR(steps.back().to.y, plot.top - 20, 1e-6);  // where the last of it may be seen
 }
 
-TEST_F(AnalysisTest, SteepLinesCrossThePlotAreaWhereTheyPassItsValues) {
+TEST_F(TrendlinesTest, SteepLinesCrossThePlotAreaWhereTheyPassItsValues) {
   struct {
     Numbers values;
     double place;  // the number of the category, from 1, at which the line passes 0; 0 without a line
@@ -406,7 +277,7 @@ TEST_F(AnalysisTest, SteepLinesCrossThePlotAreaWhereTheyPassItsValues) {
   }
 }
 
-TEST_F(AnalysisTest, LabelsOfTrendlinesAreAtTheirEndOrWhereTheirLayoutSays) {
+TEST_F(TrendlinesTest, LabelsOfTrendlinesAreAtTheirEndOrWhereTheirLayoutSays) {
   const auto draw = [&](const S& layout) {
     return DrawColumns({2, 4}, TrendXml("linear", "<c:dispEq val=\"1\"/><c:trendlineLbl>" + layout +
                                                       LookXml(SolidXml("FFFFCC")) + "</c:trendlineLbl>"));
@@ -437,7 +308,7 @@ TEST_F(AnalysisTest, LabelsOfTrendlinesAreAtTheirEndOrWhereTheirLayoutSays) {
   }
 }
 
-TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
+TEST_F(TrendlinesTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
   const auto draw = [&](const S& kind, const S& x, const Numbers& values) {
     const S series = PointsXml(0, {1, 10, 100'000}, values, TrendXml(kind, "<c:backward val=\"9\"/>"));
     const S axes = ValueAxesXml(x, kZeroToTen);
@@ -458,36 +329,7 @@ TEST_F(AnalysisTest, CurvesAreSampledBetweenTheEndsOfTheirAxis) {
             (render::Notes{"A trendline isn't drawn because fewer than two of its points are on the axes."}));
 }
 
-TEST_F(AnalysisTest, SaysWhatIsNotDrawn) {
-  const S longest = "A moving average isn't drawn because its period isn't shorter than its series.";
-  const S shadow =
-      LookXml("<a:effectLst><a:outerShdw><a:srgbClr val=\"000000\"/></a:outerShdw></a:effectLst>");
-  const auto average = [](int period) {
-    return TrendXml("movingAvg", "<c:period val=\"" + std::to_string(period) + "\"/>");
-  };
-  struct {
-    S more, axis;
-    render::Notes notes;
-  } const kCases[] = {
-      {average(2), "", {}},
-      {average(3), "", {longest}},
-      {average(4) + average(5), "", {longest}},
-      {ErrorBarsXml("fixedVal", "1", "<c:errDir val=\"x\"/>"),
-       "",
-       {"Error bars along a category axis aren't drawn."}},
-      {ErrorBarsXml("fixedVal", "1", "", "both", shadow), "", {"Shadows of error bars aren't drawn."}},
-      {"", "<c:majorGridlines>" + shadow + "</c:majorGridlines>", {"Shadows of gridlines aren't drawn."}},
-      {"", shadow, {"Shadows of axes aren't drawn."}},
-  };
-  for (const auto& test : kCases) {
-    const Drawing drawing = DrawGroup("lineChart", "<c:grouping val=\"standard\"/>",
-                                      SeriesXml(0, {1, 2, 3}, test.more), test.axis);
-    EXPECT_EQ(notes_, test.notes) << test.more;
-    EXPECT_EQ(DrawingComplaints(drawing), "") << test.more;
-  }
-}
-
-TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
+TEST_F(TrendlinesTest, TheLimitOfTrendlinesEndsNothingElse) {
   S trends;
   for (int i = 0; i < 400; ++i) trends += TrendXml("movingAvg", "<c:period val=\"100\"/>");
   const S bars = "<c:upDownBars><c:upBars/><c:downBars/></c:upDownBars>";
@@ -504,7 +346,7 @@ TEST_F(AnalysisTest, TheLimitOfTrendlinesEndsNothingElse) {
                            "left out."}));
 }
 
-TEST_F(AnalysisTest, LegendsOfManyTrendlinesHaveTheEntriesThatFit) {
+TEST_F(TrendlinesTest, LegendsOfManyTrendlinesHaveTheEntriesThatFit) {
   S trends, entries;
   for (int i = 0; i < 30'000; ++i) {
     trends += TrendXml("linear");
@@ -518,21 +360,6 @@ TEST_F(AnalysisTest, LegendsOfManyTrendlinesHaveTheEntriesThatFit) {
             (render::Notes{"The chart has more trendlines through many points than are drawn; the rest is "
                            "left out.",
                            "The legend has room for 18 of its entries; the others are left out."}));
-}
-
-TEST_F(AnalysisTest, WildNumbersStayOnTheDrawing) {
-  Numbers many;
-  for (int i = 0; i < 20'000; ++i) many.push_back(i % 7 == 0 ? 1e308 : -1e308);
-  const S wild = TrendXml("poly",
-                          "<c:order val=\"99\"/><c:forward val=\"1e300\"/><c:backward val=\"INF\"/>"
-                          "<c:intercept val=\"NaN\"/><c:dispEq val=\"1\"/>") +
-                 TrendXml("movingAvg", "<c:period val=\"4000000000\"/>") + TrendXml("exp") +
-                 ErrorBarsXml("stdDev", "1e308") + ErrorBarsXml("percentage", "-1e300");
-  for (const Numbers& values : {many, Numbers{}, Numbers{kNoValue}, Numbers{0}}) {
-    const Drawing drawing = DrawColumns(values, wild, "");
-    EXPECT_LT(drawing.items.size(), 200'000u);
-    EXPECT_EQ(DrawingComplaints(drawing), "");
-  }
 }
 
 }  // namespace
