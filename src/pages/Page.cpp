@@ -29,7 +29,8 @@ void Page::DisplayMessage(const std::string& sMessage) {
   }
   if (sText.empty()) return;
   ShowMessage(sText);
-  if (forms::Control* oControl = FocusAfter(sText)) oControl->SetFocus();
+  forms::Control* const oControl = FocusAfter(sText);
+  if (oControl != nullptr && oControl->Obstacle().empty()) oControl->SetFocus();
 }
 
 void Page::ShowHelp() const { App.Desktop->ShowHelp(hWnd, App.HelpFile, HelpTopic()); }

@@ -213,9 +213,12 @@ void frmPSLayoutABC::ChooseFittingOptions(Trigger lTrigger) {
 void frmPSLayoutABC::SetValueState() {
   if (ColumnsGiveSize()) {
     Axes.FillValueAxis("");
+    // With a single number column, the Click event deselects the columns again, but the box stays disabled.
     cboValues.SetListIndex(-1);
+    SetInputEnabled(cboValues, false);
+  } else {
+    SetInputEnabled(cboValues, true);
   }
-  SetInputEnabled(cboValues, !ColumnsGiveSize());
 }
 
 void frmPSLayoutABC::SetCategoryStates() {

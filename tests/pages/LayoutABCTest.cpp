@@ -67,6 +67,11 @@ TEST_F(LayoutABCTest, TheNumberOfColumnsDeterminesTheColors) {
       {{"A"}, {"N", "M"}, "", "lstCategories cboSeries lstSeries" + rest},
       {{"A"},
        {"N"},
+       "choose optSeries(2); expect optSeries(0).Value yes; expect cboValues.ListIndex -1; press cmdNext; "
+       "expect message \"Please select a 'Column Height' entry\"",
+       "lstCategories optSeries(1) cboSeries lstSeries cboValues" + rest},
+      {{"A"},
+       {"N"},
        "choose optSeries(2); choose optSeries(0)",
        "lstCategories optSeries(1) cboSeries lstSeries" + rest},
       {{"A", "B"},
