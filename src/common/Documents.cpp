@@ -24,7 +24,7 @@ std::int32_t GetAttributeLong(const dom::IXMLDOMElement& oElement, const char* s
 }
 
 bool HasSetting(const dom::IXMLDOMElement& oChartElement, const char* sGroup, std::string_view sSetting) {
-  const auto aAttributes = oChartElement.selectNodes((std::string(sGroup) + "/attribute").c_str());
+  const auto aAttributes = oChartElement.selectNodes((std::string(sGroup) + "[1]/attribute").c_str());
   return std::any_of(aAttributes.begin(), aAttributes.end(), [&](const dom::IXMLDOMElement& oAttribute) {
     return GetAttributeText(oAttribute, "setting") == sSetting;
   });

@@ -1,37 +1,16 @@
 #include "dom/Dom.h"
 
-#include <expat.h>
 #include <memory>
-#include <new>
 #include <sstream>
 
 #include "dom/XmlCharacters.h"
-#include "dom/XmlDepth.h"
+#include "dom/XmlTree.h"
 #include "runtime/RuntimeError.h"
 
 namespace plotsmith::dom {
 
 using runtime::RuntimeError;
 using runtime::Variant;
-
-namespace {
-
-/// The maximum depth of elements. A definition has four levels.
-constexpr int kDeepest = 256;
-
-/// Finds the error in a text. pugixml accepts many texts that aren't XML, so a stricter parser checks the
-/// text.
-IXMLDOMParseError FindError(std::string_view xml) {
-  const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(XML_ParserCreate("UTF-8"),
-                                                                            XML_ParserFree);
-  if (!parser) throw std::bad_alloc();
-  if (XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) == XML_STATUS_OK) return {};
-  return {XML_ErrorString(XML_GetErrorCode(parser.get())),
-          static_cast<std::int32_t>(XML_GetCurrentLineNumber(parser.get())),
-          static_cast<std::int32_t>(XML_GetCurrentColumnNumber(parser.get())) + 1};
-}
-
-}  // namespace
 
 /// The nodes of a document. One pugixml document contains both the tree and the nodes outside the tree,
 /// because pugixml moves nodes only within one document.
@@ -131,23 +110,12 @@ IXMLDOMDocument2 IXMLDOMDocument2::Create() {
 }
 
 bool IXMLDOMDocument2::loadXML(std::string_view xml) {
-  Checked().remove_children();
-  tree_->error = FindError(xml);
-  if (!tree_->error.reason.empty()) return false;
-  pugi::xml_document parsed;
-  const pugi::xml_parse_result result = parsed.load_buffer(
-      xml.data(), xml.size(), pugi::parse_full | pugi::parse_ws_pcdata, pugi::encoding_utf8);
-  const auto refuse = [&](std::string reason) {
-    tree_->error = {std::move(reason), 1, 1};
-    return false;
-  };
-  if (!result) return refuse(result.description());
-  if (NestsDeeperThan(parsed, kDeepest)) {
-    return refuse("elements are nested deeper than " + std::to_string(kDeepest));
-  }
-  // Declarations and document types can't be below the tree's own root, and the system doesn't need them.
-  for (const pugi::xml_node& node : parsed.children()) node_.append_copy(node);
-  return static_cast<bool>(documentElement());
+  Checked();
+  node_.remove_children();
+  tree_->error = AppendXml(node_, xml);
+  if (tree_->error.reason.empty()) return true;
+  node_.remove_children();
+  return false;
 }
 
 const IXMLDOMParseError& IXMLDOMDocument2::parseError() const {

@@ -52,8 +52,9 @@ class IXMLDOMNode {
   /// The node and its descendants as XML.
   std::string xml() const;
 
-  /// Find elements by a path of child names ("values/column"), or anywhere in the document by "//name". The
-  /// order is document order. selectSingleNode returns the first element, or Nothing.
+  /// Find elements by a path of child names ("values/column"), or anywhere in the document by "//name".
+  /// "axes[1]/axis" are the children of the first `axes` only. The order is document order. selectSingleNode
+  /// returns the first element, or Nothing.
   ///@{
   IXMLDOMElement selectSingleNode(const char* query) const;
   IXMLDOMNodeList selectNodes(const char* query) const;

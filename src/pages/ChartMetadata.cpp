@@ -45,7 +45,7 @@ void AppendSettings(const char* sElement, std::initializer_list<Setting> aSettin
 std::vector<std::string> ColumnsOf(const char* sElement) {
   std::vector<std::string> aNames;
   for (const IXMLDOMElement& oColumn :
-       ChartElement().selectNodes((std::string(sElement) + "/column").c_str())) {
+       ChartElement().selectNodes((std::string(sElement) + "[1]/column").c_str())) {
     aNames.push_back(GetAttributeText(oColumn, "name"));
   }
   return aNames;

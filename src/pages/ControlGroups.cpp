@@ -59,7 +59,7 @@ void AxisBoxes::Fill(bool bHorizontal, const std::string& sText) {
 }
 
 void AxisBoxes::Restore() {
-  for (const IXMLDOMElement& oAxis : ChartElement().selectNodes("axes/axis")) {
+  for (const IXMLDOMElement& oAxis : ChartElement().selectNodes("axes[1]/axis")) {
     const std::string sType = GetAttributeText(oAxis, "type");
     if (sType != "label" && sType != "value") continue;
     const bool bHorizontal = (sType == "label") == bHorizontalIsLabel;

@@ -332,10 +332,10 @@ void frmPSLayoutABC::RestoreHeadings() {
 }
 
 void frmPSLayoutABC::RestoreStyle() {
-  for (const auto& oLabel : ChartElement().selectNodes("data-labels/data-label")) {
+  for (const auto& oLabel : ChartElement().selectNodes("data-labels[1]/data-label")) {
     if (GetAttributeText(oLabel, "show") == "values") chkShowValues.SetValue(forms::CheckBox::kChecked);
   }
-  for (const auto& oAttribute : ChartElement().selectNodes("dynamic-attributes/attribute")) {
+  for (const auto& oAttribute : ChartElement().selectNodes("dynamic-attributes[1]/attribute")) {
     const std::string sSetting = GetAttributeText(oAttribute, "setting");
     if (sSetting == "3D") chk3D.SetValue(forms::CheckBox::kChecked);
     if (sSetting == "stacked") chkStacked.SetValue(forms::CheckBox::kChecked);

@@ -106,7 +106,7 @@ void frmPSLayoutBubble::RestoreChartSelections() {
 
 void frmPSLayoutBubble::RestoreStyle() {
   if (HasSetting(ChartElement(), "dynamic-attributes", "3D")) chk3D.SetValue(forms::CheckBox::kChecked);
-  for (const auto& oAttribute : ChartElement().selectNodes("static-attributes/attribute")) {
+  for (const auto& oAttribute : ChartElement().selectNodes("static-attributes[1]/attribute")) {
     const std::string sSetting = GetAttributeText(oAttribute, "setting");
     if (sSetting == "quadrants") chkQuadrants.SetValue(forms::CheckBox::kChecked);
     if (sSetting == "autoscale-x") chkScaleXAxis.SetValue(forms::CheckBox::kChecked);

@@ -66,12 +66,12 @@ void frmPSLayoutPie::RestoreChartSelections() {
     NumberFormat.Restore();
     SelectEntries(lstCategories, ColumnsOf("categories"));
     SelectEntries(cboValues, ColumnsOf("values"));
-    for (const auto& oLabel : ChartElement().selectNodes("data-labels/data-label")) {
+    for (const auto& oLabel : ChartElement().selectNodes("data-labels[1]/data-label")) {
       const std::string sShow = GetAttributeText(oLabel, "show");
       if (sShow == "values") optDataLabels0.SetValue(true);
       if (sShow == "percentages") optDataLabels1.SetValue(true);
     }
-    for (const auto& oAttribute : ChartElement().selectNodes("dynamic-attributes/attribute")) {
+    for (const auto& oAttribute : ChartElement().selectNodes("dynamic-attributes[1]/attribute")) {
       const std::string sSetting = GetAttributeText(oAttribute, "setting");
       if (sSetting == "3D") chk3D.SetValue(forms::CheckBox::kChecked);
       if (sSetting == "exploded") chkExploded.SetValue(forms::CheckBox::kChecked);

@@ -38,11 +38,12 @@ struct LabelledAxis {
   AxisLabel oNew;
 };
 
+/// Appends a property. Raises error 94 for Null.
 void AppendPersist(IXMLDOMDocument2& oChartDoc, const std::string& sProperty, const Variant& vValue) {
   auto oAutoPersistence = oChartDoc.documentElement().selectSingleNode("auto-persistence");
   auto oPersist = oChartDoc.createElement("persist");
   oPersist.setAttribute("property", sProperty);
-  oPersist.setAttribute("value", SafeString(vValue));
+  oPersist.setAttribute("value", runtime::CStr(vValue));
   oAutoPersistence.appendChild(oPersist);
 }
 
@@ -294,6 +295,7 @@ void RevEngineerChartLegend(const Ref<excel::Chart>& oChart, IXMLDOMDocument2& o
     const Variant vSize = oFont->Size();
     const Variant vColor = oFont->Color();
     const Variant vAutoScale = oLegend->AutoScaleFont();
+    // A property that differs between the entries is Null. It isn't stored.
     IgnoreErrors([&] { AppendPersist(oChartDoc, "legend-font-name", vName); },
                  [&] { AppendPersist(oChartDoc, "legend-font-style", vStyle); },
                  [&] { AppendPersist(oChartDoc, "legend-font-size", vSize); },

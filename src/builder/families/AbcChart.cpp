@@ -92,7 +92,7 @@ void SetABCChartAttributes(const IXMLDOMElement& oChartElement) {
     ApplyAxisTitles(oChartElement);
     FinishAxes();
 
-    const auto aLabels = oChartElement.selectNodes("data-labels/data-label");
+    const auto aLabels = oChartElement.selectNodes("data-labels[1]/data-label");
     if (std::any_of(aLabels.begin(), aLabels.end(),
                     [](const auto& oLabel) { return GetAttributeText(oLabel, "show") == "values"; })) {
       ApplyLabels(excel::xlDataLabelsShowValue, excel::xlLabelPositionCenter);

@@ -47,7 +47,7 @@ void SetPieChartAttributes(const IXMLDOMElement& oChartElement) {
     ApplyTitle(oChartElement);
 
     bool bValues = false, bPercentages = false;
-    for (const IXMLDOMElement& oLabel : oChartElement.selectNodes("data-labels/data-label")) {
+    for (const IXMLDOMElement& oLabel : oChartElement.selectNodes("data-labels[1]/data-label")) {
       const std::string sShow = GetAttributeText(oLabel, "show");
       if (sShow == "values") bValues = true;
       if (sShow == "percentages") bPercentages = true;

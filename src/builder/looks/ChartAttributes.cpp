@@ -42,7 +42,7 @@ void ClearAxisTitles() {
 }
 
 void ApplyAxisTitles(const IXMLDOMElement& oChartElement, const AxisTitleManner& oManner) {
-  for (const IXMLDOMElement& oAxisElement : oChartElement.selectNodes("axes/axis")) {
+  for (const IXMLDOMElement& oAxisElement : oChartElement.selectNodes("axes[1]/axis")) {
     const std::string sType = GetAttributeText(oAxisElement, "type");
     const std::string sLabel = GetAttributeText(oAxisElement, "label");
     if ((sType == "label" || sType == "value") && !sLabel.empty()) {
@@ -104,7 +104,7 @@ void ApplyLabels(std::int32_t lType, std::int32_t lPosition) {
 std::int32_t SumOfSettings(const IXMLDOMElement& oChartElement, std::initializer_list<SettingWeight> aWeights,
                            bool bYield) {
   std::int32_t lSum = 0;
-  for (const IXMLDOMElement& oAttribute : oChartElement.selectNodes("dynamic-attributes/attribute")) {
+  for (const IXMLDOMElement& oAttribute : oChartElement.selectNodes("dynamic-attributes[1]/attribute")) {
     const std::string sSetting = GetAttributeText(oAttribute, "setting");
     for (const SettingWeight& oWeight : aWeights) {
       if (oWeight.sSetting == sSetting) lSum += oWeight.lWeight;

@@ -100,7 +100,7 @@ void SetPropertyDefaults() {
 void RetrievePersistedProperties(const dom::IXMLDOMElement& oChartElement) {
   ReportErrors("PSChartBuilder.RetrievePersistedProperties", [&] {
     SetPropertyDefaults();
-    for (const auto& oPersist : oChartElement.selectNodes("auto-persistence/persist")) {
+    for (const auto& oPersist : oChartElement.selectNodes("auto-persistence[1]/persist")) {
       StoreProperty(GetAttributeText(oPersist, "property"), GetAttributeText(oPersist, "value"));
       YieldToHost();
     }

@@ -45,7 +45,7 @@ Aspect AttributeAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read,
 
 /// Returns the axis of a type ("label" or "value"), or Nothing if the definition has none.
 IXMLDOMElement FindAxis(const IXMLDOMElement& chart, std::string_view type) {
-  for (const IXMLDOMElement& axis : chart.selectNodes("axes/axis")) {
+  for (const IXMLDOMElement& axis : chart.selectNodes("axes[1]/axis")) {
     if (GetAttributeText(axis, "type") == type) return axis;
   }
   return {};
@@ -96,7 +96,7 @@ const std::vector<PersistedLook>& PersistedLooks() {
 
 Aspect PersistAspect(const IXMLDOMElement& stored, const IXMLDOMElement& read, const PersistedLook& look) {
   const auto find = [&](const IXMLDOMElement& chart) {
-    for (const IXMLDOMElement& persist : chart.selectNodes("auto-persistence/persist")) {
+    for (const IXMLDOMElement& persist : chart.selectNodes("auto-persistence[1]/persist")) {
       if (GetAttributeText(persist, "property") == look.property) return persist;
     }
     return IXMLDOMElement();
