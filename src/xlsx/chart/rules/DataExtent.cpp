@@ -30,13 +30,12 @@ void AddStacks(const std::vector<std::span<const double>>& series, const StackRu
     if (rules.isPercent) {
       if (above > 0) extent.Add(1);
       if (below < 0) extent.Add(-1);
-    } else if (rules.isSplit) {
-      if (above > 0 || below == 0) extent.Add(above);
-      if (below < 0) extent.Add(below);
-    } else {
-      extent.Add(*sums.least);
-      extent.Add(*sums.greatest);
+      continue;
     }
+    // Otherwise, an axis of large sums could begin above whole series.
+    extent.Add(0);
+    extent.Add(rules.isSplit ? above : *sums.greatest);
+    extent.Add(rules.isSplit ? below : *sums.least);
   }
 }
 

@@ -27,8 +27,8 @@ struct StackRules {
   bool isPercent = false;
 };
 
-/// Adds the ends of stacked series; NaN is a point without a value. A percentage axis extends to 100 if any
-/// value is above zero, and to -100 if any value is below.
+/// Adds zero and the ends of stacked series; NaN is a point without a value. A percentage axis extends to 100
+/// if any value is above zero, and to -100 if any value is below.
 void AddStacks(const std::vector<std::span<const double>>& series, const StackRules& rules,
                DataExtent& extent);
 
