@@ -1,3 +1,4 @@
+#include <numeric>
 #include <set>
 
 #include "runtime/Strings.h"
@@ -58,6 +59,17 @@ TEST_F(AxesTest, AxesOfValuesShowTheirMajorUnits) {
     EXPECT_EQ(TextsOf(drawing, Role::kTickLabel, 2), test.labels) << test.what;
     EXPECT_EQ(DrawingComplaints(drawing), "") << test.what;
   }
+}
+
+TEST_F(AxesTest, LongWordsBesideBarsAreBroken) {
+  const S word = "https://example.com/a/path/that/has/no/blanks/and/is/as/long/as/the/chart/index.html";
+  const Drawing drawing = DrawWith({2, 4}, "", "", {"b", word}, true);
+  const Texts labels = TextsOf(drawing, Role::kTickLabel, 1);
+  ASSERT_GT(labels.size(), 2u) << "the word has several lines";
+  EXPECT_EQ(labels.front(), "b");
+  EXPECT_EQ(std::accumulate(labels.begin() + 1, labels.end(), S()), word);
+  EXPECT_GT(BoxOf(drawing, Role::kPlotArea).width, 384 * 0.4);
+  EXPECT_EQ(DrawingComplaints(drawing), "");
 }
 
 TEST_F(AxesTest, StacksAreScaledByTheirEnds) {

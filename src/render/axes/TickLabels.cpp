@@ -115,7 +115,7 @@ Setting SettingForUpright(const AxisModel& axis, const std::vector<std::string>&
   const double rotation = axis.text.rotation.value_or(0);
   Setting setting{rotation, kUnlimited, std::max(static_cast<double>(axis.labelSkip), 1.0)};
   const double turned = std::abs(std::sin(rotation * kRadian));
-  if (turned < 0.05 && !axis.IsOfValues()) setting.wrap = std::max(depth, sizes.widestWord);
+  if (turned < 0.05 && !axis.IsOfValues()) setting.wrap = depth;  // breaks a longer word too
   const double needed = turned < 0.05 ? TallestWrapped(texts, axis.text, sizes, setting.wrap, measure)
                                       : NeededAlong(sizes, 90 - std::abs(rotation), 0);
   setting.skip = MultipleFor(setting.skip, needed, slot);
