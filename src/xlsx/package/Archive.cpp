@@ -80,7 +80,8 @@ struct Archive::Handle {
   std::unique_ptr<zip_t, ZipCloser> zip;
 };
 
-Archive::Archive(const std::string& path) : path_(path), handle_(std::make_unique<Handle>()) {
+Archive::Archive(const std::string& path)
+    : path_(path), stamp_(FileStamp::Of(path)), handle_(std::make_unique<Handle>()) {
   handle_->zip = OpenFrom(OpenZipFile(path), ZIP_RDONLY);
   zip_t* zip = handle_->zip.get();
   const auto count = zip_get_num_entries(zip, 0);
@@ -104,6 +105,8 @@ Archive::Archive(const std::string& path) : path_(path), handle_(std::make_uniqu
 }
 
 Archive::~Archive() = default;
+
+bool Archive::FileHasChanged() const { return FileStamp::Of(path_) != stamp_; }
 
 void Archive::Close() { handle_.reset(); }
 

@@ -4,9 +4,12 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "xlsx/package/FileStamp.h"
 
 namespace plotsmith::xlsx {
 
@@ -31,6 +34,8 @@ class Archive {
 
   /// The path of the file.
   const std::string& Path() const { return path_; }
+  /// Returns true if the file at the path has changed since this archive was opened.
+  bool FileHasChanged() const;
   /// The entries in the order of the directory.
   const std::vector<ArchiveEntry>& Entries() const { return entries_; }
   /// Closes the file. Its entries can no longer be opened.
@@ -51,6 +56,7 @@ class Archive {
   friend class ArchiveWriter;
   struct Handle;
   std::string path_;
+  std::optional<FileStamp> stamp_;  ///< The file before it was opened.
   std::unique_ptr<Handle> handle_;  ///< Null after Close.
   std::vector<ArchiveEntry> entries_;
 };

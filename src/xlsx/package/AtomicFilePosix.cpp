@@ -17,6 +17,8 @@ namespace {
 }
 
 constexpr const char* kDescriptors = "/proc/self/fd";
+constexpr int kLockAttempts = 200;
+constexpr useconds_t kLockPause = 5000;  // microseconds between two attempts
 
 /// Opens a file without a name in the folder. Returns -1 if the system can't make such files or can't give
 /// them names later.
@@ -81,7 +83,24 @@ AtomicFile::AtomicFile(const std::string& path) {
 
 AtomicFile::~AtomicFile() {
   close(file_);
+  if (lock_ >= 0) close(lock_);
   if (!temporary_.empty()) unlink(temporary_.c_str());
+}
+
+void AtomicFile::Flush() {
+  if (fsync(file_) != 0 && errno != EINVAL) Fail(path_);
+}
+
+// Programs such as LibreOffice hold such a lock as long as they have a file open, and the user may insist on
+// a save meanwhile. So this doesn't wait for ever.
+void AtomicFile::LockTarget() {
+  lock_ = open(path_.c_str(), O_RDWR | O_CLOEXEC);
+  struct flock whole {};
+  whole.l_type = F_WRLCK;
+  for (int attempt = 0; lock_ >= 0 && attempt < kLockAttempts; ++attempt) {
+    if (fcntl(lock_, F_OFD_SETLK, &whole) == 0 || (errno != EAGAIN && errno != EACCES)) return;
+    usleep(kLockPause);
+  }
 }
 
 void AtomicFile::Commit() {
@@ -92,7 +111,6 @@ void AtomicFile::Commit() {
   if (replaces && fchown(file_, old.st_uid, old.st_gid) != 0) {
     // Only root can change the owner. Otherwise the copy belongs to the current user.
   }
-  if (fsync(file_) != 0 && errno != EINVAL) Fail(path_);
   // A link can't replace a file, so the nameless file gets a temporary name first.
   const bool placed = temporary_.empty() && !replaces && LinkTo(file_, path_);
   if (!placed) {

@@ -92,8 +92,13 @@ AtomicFile::~AtomicFile() {
   if (!temporary_.empty()) DeleteFileW(PathOf(temporary_).c_str());
 }
 
-void AtomicFile::Commit() {
+void AtomicFile::Flush() {
   if (!FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file_)))) Fail(path_);
+}
+
+void AtomicFile::LockTarget() {}  // Windows doesn't replace a file that another process has open.
+
+void AtomicFile::Commit() {
   _close(std::exchange(file_, -1));
   const auto target = PathOf(path_), temporary = PathOf(temporary_);
   const bool replaces = GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES;

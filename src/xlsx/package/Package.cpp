@@ -440,6 +440,7 @@ std::vector<std::string> Package::RemoveRelationship(std::string_view source, st
 void Package::Save(const std::string& path) {
   AtomicFile file(path);
   Write(file.Descriptor());
+  file.Flush();
   Commit(file, path);
 }
 
@@ -453,6 +454,8 @@ void Package::Commit(AtomicFile& file, const std::string& path) {
     file.Commit();
     return;
   }
+  file.LockTarget();
+  if (archive_->FileHasChanged()) throw PackageError("another program has changed it since it was read");
   archive_->Close();
   try {
     file.Commit();

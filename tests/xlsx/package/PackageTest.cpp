@@ -78,6 +78,23 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
   EXPECT_EQ(again.FindRelationship("/xl/workbook.xml", id)->type, "new");
 }
 
+TEST_F(PackageFileTest, AFileThatAnotherProgramHasChangedIsNotReplaced) {
+  const S path = folder_ / "book.xlsx";
+  Package::Open(Write(test::PlainSales(), "original.xlsx")).Save(path);
+  auto first = Package::Open(path), second = Package::Open(path);
+  first.Replace("/xl/workbook.xml", "<first/>");
+  second.Replace("/xl/workbook.xml", "<second/>");
+  for (const char* const text : {"<first/>", "<once more/>"}) {
+    first.Replace("/xl/workbook.xml", text);
+    first.Save(path);
+  }
+  const S before = test::BytesOf(path);
+  EXPECT_EQ(test::ErrorTextOf([&] { second.Save(path); }), "another program has changed it since it was read");
+  EXPECT_EQ(test::BytesOf(path), before);
+  second.Save(folder_ / "other.xlsx");
+  EXPECT_EQ(Package::Open(folder_ / "other.xlsx").Read("/xl/workbook.xml"), "<second/>");
+}
+
 TEST_F(PackageFileTest, APackageSavedOverItsOwnFileUsesTheNewFile) {
   const S path = Book();
   Package package = Package::Open(path);
