@@ -63,9 +63,10 @@ void PictureWriter::LoadAhead() {
 
 void PictureWriter::Open() {
   if (plan_.target != PicturePlan::Target::kFolder) return;
-  std::error_code error;
-  fs::create_directories(runtime::PathOf(plan_.path), error);
-  if (error && !fs::is_directory(runtime::PathOf(plan_.path)))
+  const fs::path folder = runtime::PathOf(plan_.path);
+  std::error_code error, ignored;
+  fs::create_directories(folder, error);
+  if (error && !fs::is_directory(folder, ignored))
     throw CommandError(exit_code::kFile, "can't make the folder \"" + plan_.path +
                                              "\": " + runtime::SystemErrorText(error.value()) + ".");
 }
