@@ -27,6 +27,19 @@ struct RefreshCounts {
   std::size_t unavailable = 0;  ///< Charts that couldn't be drawn.
 };
 
+/// The error of Session::CheckBeforeRun for a run that would lose definitions, or whose charts could be
+/// confused with each other. The session has printed the findings.
+class RunRefused : public CommandError {
+ public:
+  /// Makes the error of a run that would lose `lost` definitions.
+  explicit RunRefused(std::size_t lost);
+  /// The number of definitions that the run would lose. If it is 0, charts could be confused.
+  std::size_t Lost() const { return lost_; }
+
+ private:
+  std::size_t lost_;
+};
+
 /// A workbook that is open in the embedded host, with the system set up to work on it.
 class Session {
  public:
@@ -58,8 +71,8 @@ class Session {
   /// can't be a workbook. If `output` is standard output, the journal goes to `err` from here on.
   void CheckWritable(const std::optional<std::string>& output);
   /// Checks the definitions before a run that writes. If the run would lose definitions, prints a line for
-  /// each on `err` and throws CommandError, unless the options allow it. Other findings are reported after
-  /// the save.
+  /// each on `err` and throws RunRefused, unless the options allow it. Other findings are reported after the
+  /// save. Throws another CommandError if the workbook is damaged.
   void CheckBeforeRun(DefinitionsAre definitions);
   /// Checks a table id after the run. Throws CommandError if the workbook has neither a table nor a chart
   /// with it.

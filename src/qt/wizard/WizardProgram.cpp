@@ -79,10 +79,13 @@ bool WizardProgram::CheckBeforeRun() {
   try {
     session_.CheckBeforeRun(cli::DefinitionsAre::kEdited);
     return true;
-  } catch (const cli::CommandError&) {
+  } catch (const cli::RunRefused& refused) {
+    const QString consequence = refused.Lost() > 0
+                                    ? QStringLiteral("The wizard would drop these definitions.")
+                                    : QStringLiteral("Charts could be confused with each other.");
     return ShowMessageBox(
                window_.get(), QMessageBox::Warning,
-               TakeMessages() + QStringLiteral("\n\nThe wizard would drop these definitions. Continue?"),
+               TakeMessages() + QStringLiteral("\n\n") + consequence + QStringLiteral(" Continue?"),
                QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
   }
 }

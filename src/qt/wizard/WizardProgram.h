@@ -36,8 +36,8 @@ class WizardProgram {
   /// What follows a run.
   enum class Next { kRunAgain, kQuit };
 
-  /// Checks the definitions. If the run would lose some, asks the user. Returns false if the run must not
-  /// begin.
+  /// Checks the definitions. If the run would lose some, or if charts could be confused, asks the user.
+  /// Returns false if the run must not begin.
   bool CheckBeforeRun();
   /// Shows the messages of the session, if any.
   void ShowMessages();
