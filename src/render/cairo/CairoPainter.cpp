@@ -5,6 +5,7 @@
 #include <cairo.h>
 #include <cmath>
 #include <memory>
+#include <new>
 #include <numbers>
 #include <optional>
 #include <stdexcept>
@@ -19,9 +20,14 @@
 namespace plotsmith::render {
 namespace {
 
+/// Appends data to a std::string. No exception may pass through Cairo, which is written in C.
 cairo_status_t Append(void* bytes, const unsigned char* data, unsigned length) {
-  static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
-  return CAIRO_STATUS_SUCCESS;
+  try {
+    static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+    return CAIRO_STATUS_SUCCESS;
+  } catch (const std::bad_alloc&) {
+    return CAIRO_STATUS_NO_MEMORY;
+  }
 }
 
 void SetStroke(cairo_t* cr, const Stroke& stroke) {
