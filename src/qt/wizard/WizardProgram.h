@@ -17,8 +17,8 @@ namespace plotsmith::qt {
 /// The arguments of the wizard.
 struct WizardOptions {
   std::string book;  ///< The path of the workbook.
-  std::optional<std::string>
-      output;  ///< The output file; if absent, the user is asked when there is something to save.
+  /// The output file; if absent, the user is asked when there is something to save.
+  std::optional<std::string> output;
   cli::GlobalOptions global;  ///< The options that apply to all verbs of the command.
 };
 
