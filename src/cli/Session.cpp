@@ -213,10 +213,12 @@ RefreshCounts Session::Counts() const {
   return counts;
 }
 
-std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> Session::StartedCharts() const {
-  std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> charts;
-  for (const StartedChart& chart : started_)
-    charts.emplace_back(GetAttributeText(chart.definition, "id"), chart.object);
+std::vector<DefinedChart> Session::StartedCharts() const {
+  std::vector<DefinedChart> charts;
+  for (const StartedChart& chart : started_) {
+    charts.push_back(
+        {GetAttributeText(chart.definition, "id"), GetAttributeText(chart.definition, "name"), chart.object});
+  }
   return charts;
 }
 

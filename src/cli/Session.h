@@ -5,9 +5,9 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "cli/ChartLookup.h"
 #include "cli/Command.h"
 #include "cli/ConsoleDesktop.h"
 #include "cli/Streams.h"
@@ -81,8 +81,8 @@ class Session {
   int ChartsStarted() const { return static_cast<int>(started_.size()); }
   /// The results for these charts.
   RefreshCounts Counts() const;
-  /// Returns these charts with their ids. A chart that is on no sheet is Nothing.
-  std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> StartedCharts() const;
+  /// Returns these charts, in the order of their builds.
+  std::vector<DefinedChart> StartedCharts() const;
   /// Returns true if the system showed a message.
   bool HasMessages() const { return !desktop_->Messages().empty(); }
   /// Ends the work and saves to `output`; without it, saves to the original file if something has changed.
