@@ -128,8 +128,7 @@ void PictureWriter::PaintPages(const std::vector<render::Drawing>& pages) {
 }
 
 void PictureWriter::Await() {
-  std::exception_ptr failure;
-  const std::size_t done = tasks_.Finish(failure);
+  const auto [done, failure] = tasks_.Finish();
   for (std::size_t i = 0; list_ && i < std::min(done, files_.size()); ++i) {
     if (files_[i].isWritten) streams_.out << files_[i].path << '\n';
   }
