@@ -11,7 +11,7 @@ namespace plotsmith::cli {
 struct NamedControl {
   std::string_view word;  ///< The value on the command line.
   const char* control;    ///< The name of the control.
-  bool on = true;         ///< Whether the value checks or unchecks a check box.
+  bool checks = true;     ///< Whether the value checks a check box. Otherwise it unchecks the box.
 };
 
 /// The names of the controls of a layout page, for the options of the command. A null pointer means that the
