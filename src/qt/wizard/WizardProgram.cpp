@@ -15,7 +15,6 @@ namespace plotsmith::qt {
 namespace {
 
 constexpr const char* kLinePrefix = "plotsmith: ";  ///< The beginning of each line of the session.
-constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm *.xltx *.xltm)";
 
 }  // namespace
 
@@ -150,7 +149,8 @@ std::optional<WizardProgram::Next> WizardProgram::AskBeforeClosing() {
 }
 
 std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
-  QFileDialog dialog(window_.get(), QStringLiteral("Save As"), Target(), QString::fromLatin1(kWorkbooks));
+  QFileDialog dialog(window_.get(), QStringLiteral("Save As"), Target(),
+                     QString::fromLatin1(kWorkbookFilter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QFileInfo(TextOf(options_.book)).suffix());
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // Qt would ask in its own event loop.

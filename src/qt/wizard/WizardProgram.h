@@ -14,6 +14,9 @@
 
 namespace plotsmith::qt {
 
+/// The filter for workbooks in file dialogs.
+inline constexpr const char* kWorkbookFilter = "Workbooks (*.xlsx *.xlsm *.xltx *.xltm)";
+
 /// The arguments of the wizard.
 struct WizardOptions {
   std::string book;  ///< The path of the workbook.

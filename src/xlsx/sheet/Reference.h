@@ -20,6 +20,10 @@ struct CellRange {
   /// The first and the last row and column.
   std::int32_t row1 = 1, column1 = 1, row2 = 1, column2 = 1;
 
+  /// Returns true if a cell is in the rectangle.
+  bool Contains(const CellPlace& cell) const {
+    return cell.row >= row1 && cell.row <= row2 && cell.column >= column1 && cell.column <= column2;
+  }
   /// Number of rows.
   std::int32_t RowCount() const { return row2 - row1 + 1; }
   /// Number of columns.
