@@ -92,7 +92,7 @@ void SheetView::PaintPane(QPainter& painter, const Pane& pane, CellPainter& cell
 
 void SheetView::PaintGridLines(QPainter& painter, const Pane& pane, const PaneCells& shown) {
   if (shown.cells.empty()) return;
-  const QColor color = Between(palette().color(QPalette::Base), palette().color(QPalette::Text), kGridLine);
+  const QColor color = TextShade(palette(), kGridLine);
   const Line &lastRow = shown.rows.back(), &lastColumn = shown.columns.back();
   const int right = pane.origin.x() + lastColumn.edge + lastColumn.size;
   const int bottom = pane.origin.y() + lastRow.edge + lastRow.size;
@@ -260,7 +260,7 @@ void SheetView::PaintActiveCell(QPainter& painter, const Pane& pane) {
 
 void SheetView::PaintFreezeLines(QPainter& painter) {
   const QRect body = BodyArea();
-  const QColor color = Between(palette().color(QPalette::Base), palette().color(QPalette::Text), kFreezeLine);
+  const QColor color = TextShade(palette(), kFreezeLine);
   if (body.left() > headWidth_) painter.fillRect(body.left() - 1, 0, 1, viewport()->height(), color);
   if (body.top() > headHeight_) painter.fillRect(0, body.top() - 1, viewport()->width(), 1, color);
 }
