@@ -62,7 +62,7 @@ const char* ForCount(std::size_t count, const char* one, const char* several) {
 }
 
 std::string CellText(std::string_view sheet, std::int32_t row, std::int32_t column) {
-  return xlsx::QuotedSheetName(sheet) + "!" + xlsx::CellAddress(row, column, false);
+  return xlsx::QuotedSheetName(sheet) + "!" + xlsx::CellAddress(row, column);
 }
 
 }  // namespace plotsmith::cli

@@ -41,8 +41,8 @@ struct SheetRange {
 
 /// Returns the letters of a column, from 1.
 std::string ColumnLetters(std::int32_t column);
-/// Returns "$A$1", or "A1" if `absolute` is false.
-std::string CellAddress(std::int32_t row, std::int32_t column, bool absolute = true);
+/// Returns "A1".
+std::string CellAddress(std::int32_t row, std::int32_t column);
 /// Returns "$A$1" for one cell, "$A$1:$B$2" for several cells, "$1:$2" for whole rows, or "$A:$B" for whole
 /// columns.
 std::string RangeAddress(const CellRange& range);
