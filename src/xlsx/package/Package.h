@@ -75,7 +75,7 @@ class Package {
   /// read.
   std::vector<std::string> RemoveRelationship(std::string_view part, std::string_view id);
 
-  /// Returns true if the package was changed since it was opened or saved.
+  /// Returns true if the package was changed since it was opened.
   bool Changed() const { return changed_; }
   /// Writes the package to a new file, which then replaces `path` in one step. At any moment, `path` is a
   /// complete file. The file keeps its permissions; if `path` is a link, its target is replaced.
