@@ -21,8 +21,7 @@ constexpr const char* kNoTable =
     "Chart '/TKN/' has become unavailable because its source table no longer exists in this workbook.";
 constexpr const char* kNoData =
     "Chart '/TKN/' has become unavailable because table '/TKN/' \r\ncurrently contains no data.The chart "
-    "will "
-    "reappear the next time the table is refreshed with one or more rows of data.";
+    "will reappear the next time the table is refreshed with one or more rows of data.";
 constexpr const char* kBadColumn =
     "Chart '/TKN/' has become unavailable because column '/TKN/'\r\nin table '/TKN/' is missing or contains "
     "invalid data.";

@@ -54,7 +54,7 @@ Words Candidates(const std::vector<std::string>& arguments) {
   if (arguments.size() < 2) return {};
   std::istringstream in;
   std::ostringstream silent;
-  Session session(arguments[1], {}, {in, silent, silent, false});
+  Session session(arguments[1], {}, {in, silent, silent});
   if (arguments[0] == "charts") {
     session.LoadTablesAndCharts();
     return Charts();

@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "host/excel/Excel.h"
@@ -13,8 +12,13 @@ class Workbook;
 
 namespace plotsmith::cli {
 
+/// The attributes `id` and `name` of a definition.
+struct ChartName {
+  /// The id, and the name in lists.
+  std::string id, name;
+};
 /// The id and the name of each chart.
-using ChartNames = std::vector<std::pair<std::string, std::string>>;
+using ChartNames = std::vector<ChartName>;
 
 /// Returns the loaded charts in their order. `colCharts` must be set.
 ChartNames LoadedCharts();

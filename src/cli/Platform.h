@@ -20,8 +20,8 @@ class StandardStreams {
   StandardStreams& operator=(const StandardStreams&) = delete;
 
  private:
-  [[maybe_unused]] unsigned oldCodePage_ =
-      0;  ///< The previous code page of the console; 0 without a console.
+  /// The previous code page of the console; 0 without a console.
+  [[maybe_unused]] unsigned oldCodePage_ = 0;
 };
 
 /// Returns the time since 1970 in UTC, in microseconds. It advances in steps of some milliseconds, because

@@ -72,6 +72,13 @@ std::string VersionText(double version) {
   return text.find('.') == std::string::npos ? text + ".0" : text;
 }
 
+RunRefused::RunRefused(std::size_t lost)
+    : CommandError(exit_code::kFile, "nothing was changed, because " +
+                                         (lost > 0 ? Counted(lost, "definition") + " would be lost"
+                                                   : "charts could be confused with each other") +
+                                         "; correct this, or use --drop-broken."),
+      lost_(lost) {}
+
 Session::Session(std::string path, const GlobalOptions& options, const Streams& streams)
     : Session(std::move(path), options, streams, std::make_shared<ConsoleDesktop>(),
               std::make_shared<forms::UnattendedView>()) {}
@@ -178,11 +185,7 @@ void Session::CheckBeforeRun(DefinitionsAre definitions) {
   if (!check_ || options_.dropBroken) return;
   const RunRefusals refusals = check_->Refusals();
   if (!ReportFindings(refusals.lines)) return;
-  throw CommandError(exit_code::kFile,
-                     "nothing was changed, because " +
-                         (refusals.lost > 0 ? Counted(refusals.lost, "definition") + " would be lost"
-                                            : "charts could be confused with each other") +
-                         "; correct this, or use --drop-broken.");
+  throw RunRefused(refusals.lost);
 }
 
 bool Session::ReportFindings(const std::vector<std::string>& lines) const {
@@ -210,10 +213,12 @@ RefreshCounts Session::Counts() const {
   return counts;
 }
 
-std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> Session::StartedCharts() const {
-  std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> charts;
-  for (const StartedChart& chart : started_)
-    charts.emplace_back(GetAttributeText(chart.definition, "id"), chart.object);
+std::vector<DefinedChart> Session::StartedCharts() const {
+  std::vector<DefinedChart> charts;
+  for (const StartedChart& chart : started_) {
+    charts.push_back(
+        {GetAttributeText(chart.definition, "id"), GetAttributeText(chart.definition, "name"), chart.object});
+  }
   return charts;
 }
 

@@ -5,9 +5,9 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "cli/ChartLookup.h"
 #include "cli/Command.h"
 #include "cli/ConsoleDesktop.h"
 #include "cli/Streams.h"
@@ -25,6 +25,19 @@ namespace plotsmith::cli {
 struct RefreshCounts {
   std::size_t refreshed = 0;    ///< Charts that were drawn.
   std::size_t unavailable = 0;  ///< Charts that couldn't be drawn.
+};
+
+/// The error of Session::CheckBeforeRun for a run that would lose definitions, or whose charts could be
+/// confused with each other. The session has printed the findings.
+class RunRefused : public CommandError {
+ public:
+  /// Makes the error of a run that would lose `lost` definitions.
+  explicit RunRefused(std::size_t lost);
+  /// The number of definitions that the run would lose. If it is 0, charts could be confused.
+  std::size_t Lost() const { return lost_; }
+
+ private:
+  std::size_t lost_;
 };
 
 /// A workbook that is open in the embedded host, with the system set up to work on it.
@@ -58,8 +71,8 @@ class Session {
   /// can't be a workbook. If `output` is standard output, the journal goes to `err` from here on.
   void CheckWritable(const std::optional<std::string>& output);
   /// Checks the definitions before a run that writes. If the run would lose definitions, prints a line for
-  /// each on `err` and throws CommandError, unless the options allow it. Other findings are reported after
-  /// the save.
+  /// each on `err` and throws RunRefused, unless the options allow it. Other findings are reported after the
+  /// save. Throws another CommandError if the workbook is damaged.
   void CheckBeforeRun(DefinitionsAre definitions);
   /// Checks a table id after the run. Throws CommandError if the workbook has neither a table nor a chart
   /// with it.
@@ -68,8 +81,8 @@ class Session {
   int ChartsStarted() const { return static_cast<int>(started_.size()); }
   /// The results for these charts.
   RefreshCounts Counts() const;
-  /// Returns these charts with their ids. A chart that is on no sheet is Nothing.
-  std::vector<std::pair<std::string, excel::Ref<excel::Chart>>> StartedCharts() const;
+  /// Returns these charts, in the order of their builds.
+  std::vector<DefinedChart> StartedCharts() const;
   /// Returns true if the system showed a message.
   bool HasMessages() const { return !desktop_->Messages().empty(); }
   /// Ends the work and saves to `output`; without it, saves to the original file if something has changed.

@@ -29,8 +29,8 @@ extern runtime::Ref<runtime::Collection<runtime::Ref<excel::Shape>>> colChartSha
 ///@}
 
 extern dom::IXMLDOMDocument2 oChartDoc;  ///< The definition that is being edited.
-extern std::int32_t
-    lMethodType;  ///< The task of the run, from the namespace `method`. It is kept between runs.
+/// The task of the run, from the namespace `method`. It is kept between runs.
+extern std::int32_t lMethodType;
 extern std::string sChartType;       ///< The type of the current chart; "unknown" if there is none.
 extern std::string sChartID;         ///< The id of the current chart.
 extern std::string sTableID;         ///< The id of the source table of the current chart.

@@ -109,14 +109,18 @@ class Arranger {
            area.height - edges.top - edges.bottom});
   }
 
-  /// Places a part in its cell. A part that doesn't fill the height is vertically centred; beside a list, an
-  /// option is at the top.
-  void PlaceInCell(const Layout& part, const Area& cell, bool isBesideLines) {
+  /// The vertical position of options in their cells.
+  enum class OptionsAre { kCentred, kAtTheTop };
+
+  /// Places a part in its cell. A part that doesn't fill the height is vertically centred, unless it is an
+  /// option at the top.
+  void PlaceInCell(const Layout& part, const Area& cell, OptionsAre options) {
     if (FillsHeight(part)) return Place(part, cell);
     const bool isOption = dynamic_cast<const OptionButton*>(part.control) != nullptr ||
                           dynamic_cast<const CheckBox*>(part.control) != nullptr;
     const int height = std::min(LeastSize(part, measures_).height, cell.height);
-    const int above = isBesideLines && isOption ? 0 : (cell.height - height) / 2;
+    const bool isAtTheTop = isOption && options == OptionsAre::kAtTheTop;
+    const int above = isAtTheTop ? 0 : (cell.height - height) / 2;
     Place(part, {cell.left, cell.top + above, cell.width, height});
   }
 
@@ -127,10 +131,10 @@ class Arranger {
       shares.push_back(part.stretch);
     }
     Distribute(widths, shares, area.width - Sum(widths) - Gaps(widths.size(), measures_));
-    const bool hasLines = HasLines(row);
+    const auto options = HasLines(row) ? OptionsAre::kAtTheTop : OptionsAre::kCentred;  // beside a list
     int left = area.left;
     for (std::size_t i = 0; i < widths.size(); ++i) {
-      PlaceInCell(row.parts[i], {left, area.top, widths[i], area.height}, hasLines);
+      PlaceInCell(row.parts[i], {left, area.top, widths[i], area.height}, options);
       left += widths[i] + measures_.Gap();
     }
   }
@@ -162,7 +166,7 @@ class Arranger {
       const std::size_t row = i / lines.widths.size(), column = i % lines.widths.size();
       cell.width = lines.widths[column];
       cell.height = lines.heights[row];
-      PlaceInCell(grid.parts[i], cell, false);
+      PlaceInCell(grid.parts[i], cell, OptionsAre::kCentred);
       cell.left += cell.width + measures_.Gap();
       if (column + 1 < lines.widths.size()) continue;
       cell.left = area.left;

@@ -30,8 +30,8 @@ class frmBusyPS final : public forms::Form {
   explicit frmBusyPS(BusyWork oWork);
 
   bool bWorking = false;  ///< Whether the operation has started.
-  std::int32_t lMethodType =
-      0;  ///< The operation: 0 PopulateAllCharts, 1 PopulateChart, 2 ExecuteRun; other numbers do nothing.
+  /// The operation: 0 PopulateAllCharts, 1 PopulateChart, 2 ExecuteRun; other numbers do nothing.
+  std::int32_t lMethodType = 0;
   std::int32_t rMode = 0;  ///< The mode of ExecuteRun.
   std::string sChartID;    ///< The chart of PopulateChart.
 

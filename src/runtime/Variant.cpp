@@ -136,10 +136,13 @@ std::string NumberText(double value) {
 
 namespace {
 
-/// Reads the number whose digits begin at `i`, optionally with thousands separators. Returns infinity if it
-/// is too large, and nothing if there is no digit. Moves `i` behind the number. An exponent belongs to the
-/// number only if it has digits.
-std::optional<double> NumberAt(std::string_view text, std::size_t& i, bool commas) {
+/// Whether digits may be grouped by commas.
+enum class Separators { kNone, kThousands };
+
+/// Reads the number whose digits begin at `i`. Returns infinity if it is too large, and nothing if there is
+/// no digit. Moves `i` behind the number. An exponent belongs to the number only if it has digits.
+std::optional<double> NumberAt(std::string_view text, std::size_t& i, Separators separators) {
+  const bool commas = separators == Separators::kThousands;
   const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
   std::string decimal;
   bool digits = false;
@@ -169,55 +172,75 @@ std::optional<double> NumberAt(std::string_view text, std::size_t& i, bool comma
   return DecimalValue(decimal);
 }
 
-/// Returns the number that a text denotes. Returns infinity if it is too large.
-std::optional<double> ReadNumber(std::string_view text) {
-  std::size_t i = 0;
-  const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };
-  const auto skipSpace = [&] {
-    while (i < text.size() && IsSpace(text[i])) ++i;
-  };
-  bool minus = false, sign = false, parenthesis = false, currency = false;
+/// Reads a number with a sign, parentheses or a currency sign around it.
+class NumberReader {
+ public:
+  explicit NumberReader(std::string_view text) : text_(text) {}
 
-  for (bool again = true; again;) {  // Prefixes may be in any order, each at most once.
-    skipSpace();
-    again = false;
-    if (!sign && (at(i) == '+' || at(i) == '-')) {
-      sign = true, minus = at(i) == '-', ++i, again = true;
-    } else if (!sign && !parenthesis && at(i) == '(') {
-      sign = parenthesis = minus = true, ++i, again = true;
-    } else if (!currency && at(i) == '$') {
-      currency = true, ++i, again = true;
-    }
+  /// Returns the number that the whole text denotes. Returns infinity if it is too large.
+  std::optional<double> Read() {
+    do {  // Prefixes may be in any order, each at most once.
+      SkipSpace();
+    } while (TakeSign() || TakeOpening() || TakeCurrency());
+    if (Next() == '&' && !hasSign_ && !hasCurrency_) return ReadRadix();
+
+    const auto number = NumberAt(text_, at_, Separators::kThousands);
+    if (!number) return {};
+
+    do {  // This also applies to suffixes.
+      SkipSpace();
+    } while (TakeClosing() || TakeSign() || TakeCurrency());
+    if (isOpen_ || at_ != text_.size()) return {};
+    return isNegative_ ? -*number : *number;
   }
-  if (at(i) == '&' && !sign && !currency) {
-    std::string_view rest = text.substr(i + 1);
+
+ private:
+  char Next() const { return at_ < text_.size() ? text_[at_] : '\0'; }
+  void SkipSpace() {
+    while (at_ < text_.size() && IsSpace(text_[at_])) ++at_;
+  }
+  bool TakeSign() {
+    if (hasSign_ || (Next() != '+' && Next() != '-')) return false;
+    hasSign_ = true;
+    isNegative_ = text_[at_++] == '-';
+    return true;
+  }
+  /// Takes the parenthesis before a negative number, which then has no other sign.
+  bool TakeOpening() {
+    if (hasSign_ || Next() != '(') return false;
+    hasSign_ = isNegative_ = isOpen_ = true;
+    ++at_;
+    return true;
+  }
+  bool TakeClosing() {
+    if (!isOpen_ || Next() != ')') return false;
+    isOpen_ = false;
+    ++at_;
+    return true;
+  }
+  bool TakeCurrency() {
+    if (hasCurrency_ || Next() != '$') return false;
+    hasCurrency_ = true;
+    ++at_;
+    return true;
+  }
+  /// Returns the number after a "&", in base 8 or 16.
+  std::optional<double> ReadRadix() const {
+    std::string_view rest = text_.substr(at_ + 1);
     while (!rest.empty() && IsSpace(rest.back())) rest.remove_suffix(1);
     if (rest.size() < 2 || std::string_view("hHoO").find(rest[0]) == std::string_view::npos) return {};
     return RadixValue(rest);
   }
 
-  const auto number = NumberAt(text, i, true);
-  if (!number) return {};
-
-  for (bool again = true; again;) {  // Suffixes may be in any order, each at most once.
-    skipSpace();
-    again = false;
-    if (parenthesis && at(i) == ')') {
-      parenthesis = false, ++i, again = true;
-    } else if (!sign && (at(i) == '+' || at(i) == '-')) {
-      sign = true, minus = at(i) == '-', ++i, again = true;
-    } else if (!currency && at(i) == '$') {
-      currency = true, ++i, again = true;
-    }
-  }
-  if (parenthesis || i != text.size()) return {};
-  return minus ? -*number : *number;
-}
+  std::string_view text_;
+  std::size_t at_ = 0;
+  bool hasSign_ = false, isNegative_ = false, isOpen_ = false, hasCurrency_ = false;
+};
 
 }  // namespace
 
 std::optional<double> ParseNumber(std::string_view text) {
-  const auto number = ReadNumber(text);
+  const auto number = NumberReader(text).Read();
   return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
@@ -244,7 +267,7 @@ double Val(std::string_view source) {
   }
   const bool minus = text.starts_with('-');
   std::size_t i = minus || text.starts_with('+') ? 1 : 0;
-  const auto number = NumberAt(text, i, false);
+  const auto number = NumberAt(text, i, Separators::kNone);
   if (!number) return 0;
   if (!std::isfinite(*number)) throw RuntimeError(error::kOverflow);
   return minus ? -*number : *number;
@@ -278,7 +301,7 @@ double CDbl(const Variant& value) {
   if (const auto* truth = value.If<bool>()) return *truth ? -1 : 0;
   if (const auto* date = value.If<Variant::Date>()) return date->serial;
   if (const auto* text = value.If<std::string>()) {
-    const auto number = ReadNumber(*text);
+    const auto number = NumberReader(*text).Read();
     if (!number) throw RuntimeError(error::kTypeMismatch);
     if (!std::isfinite(*number)) throw RuntimeError(error::kOverflow);
     return *number;

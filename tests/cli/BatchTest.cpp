@@ -1,6 +1,9 @@
 #include <csignal>
+#include <cstdlib>
+#include <exception>
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <sstream>
 #include <unistd.h>
 #include <vector>
@@ -157,6 +160,21 @@ TEST_F(BatchTest, AWorkerThatDiesAffectsOnlyItsOwnWorkbook) {
                   "c: done\nc: well\nd: plotsmith: the process that refreshed it died (it ended early)" +
                   whole + "e: plotsmith: an unexpected error occurred: std::bad_alloc\n");
   }
+}
+
+TEST(WorkersTest, AnExceptionEndsOnlyItsWorker) {
+  WorkerTasks tasks{.count = 3};
+  tasks.run = [](std::size_t task) -> S {
+    if (task != 1) return "done";
+    std::set_terminate(std::abort);  // The process of the test stays silent.
+    throw std::bad_alloc();
+  };
+  std::vector<S> endings(tasks.count);
+  tasks.ended = [&](std::size_t task, const TaskEnding& ending) {
+    endings[task] = ending.crash.value_or(ending.report);
+  };
+  EXPECT_EQ(RunInWorkers(tasks, 1), 0);
+  EXPECT_EQ(endings, (std::vector<S>{"done", "Aborted", "done"}));
 }
 
 TEST_F(BatchTest, AnInterruptStopsTheWorkBetweenOldAndNew) {

@@ -58,6 +58,8 @@ TEST(CheckWordsTest, ListsAndQuotations) {
   EXPECT_TRUE(Listed(List(43, "x")).ends_with("x, x and 3 more")) << Listed(List(43, "x"));
   EXPECT_EQ(Quoted("a\nb"), "'a b'");
   EXPECT_EQ(Quoted(S(61, 'x')), "'" + S(60, 'x') + "...'");
+  EXPECT_EQ(Quoted(S(59, 'x') + "\U0001F600"), "'" + S(59, 'x') + "...'") << "not half of a character";
+  EXPECT_EQ(Quoted(S(58, 'x') + "\U0001F600y"), "'" + S(58, 'x') + "\U0001F600...'");
   EXPECT_EQ(CellText("My sheet", 5, 28), "'My sheet'!AB5");
   EXPECT_EQ(ShellWord("VEX_SB1"), "VEX_SB1");
   EXPECT_EQ(ShellWord("Region=Gebiet O'Neil"), "'Region=Gebiet O'\\''Neil'");

@@ -70,7 +70,7 @@ class CompletionTest : public ::testing::Test {
  protected:
   CompletionTest() {
     std::ofstream(folder_ / "plotsmith.bash") << BashCompletion(CommandLine());
-    for (const char* name : {"book.xlsx", "macro book.xlsm", "notes.txt"})
+    for (const char* name : {"book.xlsx", "macro book.xlsm", "notes.txt", "plan.xltx", "plan.xltm"})
       std::ofstream(folder_ / name) << "";
     std::filesystem::create_directory(folder_ / "folder");
   }
@@ -101,7 +101,7 @@ TEST_F(CompletionTest, BashOffersMatchingWords) {
       {"plotsmith refresh --js", {}},
       {"plotsmith tables --js", {"--json"}},
       {"plotsmith cells --jo", {"--journal"}},
-      {"plotsmith refresh \"\"", {"book.xlsx", "folder", "macro book.xlsm"}},
+      {"plotsmith refresh \"\"", {"book.xlsx", "folder", "macro book.xlsm", "plan.xltm", "plan.xltx"}},
       {"plotsmith refresh --table \"\"", {}},
       {"plotsmith save book.xlsx -o no", {"notes.txt"}},
       {"plotsmith format \"\"", {}},

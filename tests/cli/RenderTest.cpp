@@ -177,7 +177,7 @@ TEST_F(RenderTest, AMachineWithoutFontsIsReportedOnce) {
 }
 
 TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
-  const S there = "there are VEX_Chart1, VEX_Chart2 and 'Charts!Chart 3'.\n";
+  const S there = "there are VEX_Chart1, VEX_Chart2 and 'Charts!Chart 3'.\n", tooLong(300, 'x');
   const struct {
     std::vector<S> arguments;
     int code;
@@ -210,6 +210,7 @@ TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
        2,
        "a picture would have more than a hundred million pixels; use a smaller --dpi or --scale.\n"},
       {{"BOOK", "-o", ""}, 2, "-o needs the name of a file or a folder.\n"},
+      {{"BOOK", "-o", tooLong + "/"}, 3, "can't make the folder \"" + tooLong + "/\": File name too long.\n"},
       {{"BOOK", "--sheet", "Nowhere", "-o", "DIR"}, 2, "\"BOOK\" has no sheet \"Nowhere\".\n"},
       {{"BOOK", "--sheet", "Empty", "-o", "DIR"}, 2, "the sheet \"Empty\" has nothing to print.\n"},
       {{"BOOK", "--sheet", "Many rows", "-o", "DIR/a.svg"},

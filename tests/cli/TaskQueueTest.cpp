@@ -31,9 +31,9 @@ TEST(TaskQueueTest, DoesEachTaskOnce) {
       std::vector<std::atomic<int>> done(static_cast<std::size_t>(count));
       TaskQueue tasks(order);
       for (auto& one : done) tasks.Add([&one] { ++one; });
-      std::exception_ptr failure;
-      EXPECT_EQ(tasks.Finish(failure), done.size());
-      EXPECT_EQ(failure, nullptr);
+      const auto outcome = tasks.Finish();
+      EXPECT_EQ(outcome.done, done.size());
+      EXPECT_EQ(outcome.failure, nullptr);
       EXPECT_TRUE(std::all_of(done.begin(), done.end(), [](const auto& times) { return times == 1; }));
     }
   }
@@ -49,8 +49,7 @@ TEST(TaskQueueTest, OrderedTasksAreDoneByOneThread) {
       threads.push_back(std::this_thread::get_id());
     });
   }
-  std::exception_ptr failure;
-  tasks.Finish(failure);
+  tasks.Finish();
   std::vector<int> expected(100);
   std::iota(expected.begin(), expected.end(), 0);
   EXPECT_EQ(order, expected);
@@ -68,9 +67,9 @@ TEST(TaskQueueTest, ReportsTheFirstFailureAndTheTasksBeforeIt) {
           if (i < bad) ++doneBefore;
         });
       }
-      std::exception_ptr failure;
-      EXPECT_EQ(tasks.Finish(failure), bad);
-      EXPECT_EQ(MessageOf(failure), std::to_string(bad));
+      const auto outcome = tasks.Finish();
+      EXPECT_EQ(outcome.done, bad);
+      EXPECT_EQ(MessageOf(outcome.failure), std::to_string(bad));
       EXPECT_EQ(doneBefore, bad);
       EXPECT_TRUE(tasks.HasFailed());
     }
@@ -89,8 +88,7 @@ TEST(TaskQueueTest, PreparesBeforeTheTasksOfItsThread) {
           if (!prepared.empty()) threads.push_back(std::this_thread::get_id());
         });
       }
-      std::exception_ptr failure;
-      EXPECT_EQ(tasks.Finish(failure), static_cast<std::size_t>(count));
+      EXPECT_EQ(tasks.Finish().done, static_cast<std::size_t>(count));
     }
     if (runtime::ProcessorCount() == 1) continue;  // There are no threads.
     ASSERT_EQ(prepared.size(), 1u);

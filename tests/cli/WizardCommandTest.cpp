@@ -2,6 +2,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <utility>
 #include <vector>
 
 #include "tests/support/Files.h"
@@ -111,10 +112,12 @@ TEST_F(WizardCommandTest, FilesAndLocksAreChecked) {
   result = RunCommand({"wizard", book, "--show"});
   EXPECT_EQ(result.code, 2);
   EXPECT_EQ(result.err, "plotsmith: --show requires --script (try plotsmith --help)\n");
-  for (const S& path : {folder_ / "none.txt", folder_.Path().string()}) {
+  for (const auto& [path, reason] :
+       std::vector<std::pair<S, S>>{{folder_ / "none.txt", "No such file or directory"},
+                                    {folder_.Path().string(), "Is a directory"}}) {
     result = RunCommand({"wizard", book, "--script", path});
     EXPECT_EQ(result.code, 3);
-    EXPECT_EQ(result.err, "plotsmith: can't read \"" + path + "\".\n");
+    EXPECT_EQ(result.err, "plotsmith: can't read \"" + path + "\": " + reason + ".\n");
   }
   std::ofstream(folder_ / "~$book.xlsx") << "";
   EXPECT_EQ(Wizard(book, "").code, 3);

@@ -226,5 +226,34 @@ TEST_F(ReadingTest, ScalesHaveRoomForTheExtensionsOfTheirTrendlinesOnly) {
   }
 }
 
+TEST_F(ReadingTest, TheDescriptionSaysIfItLeavesOutValues) {
+  const auto described = [](const S& name, int count) {
+    S line = "\n" + name + ":";
+    for (int i = 1; i <= count; ++i) line += (i > 1 ? ", " : " ") + std::to_string(i) + " 7";
+    return line;
+  };
+  const S more = "\nThere are more values.";
+  struct {
+    int columns, otherColumns, lines;  // the number of points of each series
+    S description;
+  } const kCases[] = {
+      {200, 0, 0,
+       described("Series 0", 200) + described("Series 1", 0) + "\nLine chart." + described("Series 2", 0)},
+      {201, 0, 0, described("Series 0", 200) + more},
+      {150, 50, 0,
+       described("Series 0", 150) + described("Series 1", 50) + "\nLine chart." + described("Series 2", 0)},
+      {150, 51, 9, described("Series 0", 150) + described("Series 1", 50) + more},
+      {150, 50, 1, described("Series 0", 150) + described("Series 1", 50) + "\nLine chart." + more},
+  };
+  for (const auto& test : kCases) {
+    const auto series = [](int index, int count) {
+      return SeriesXml(index, Numbers(static_cast<std::size_t>(count), 7));
+    };
+    const Drawing drawing = Draw(PlotXml(ColumnsXml(series(0, test.columns) + series(1, test.otherColumns)) +
+                                         LinesXml(series(2, test.lines)) + AxesXml()));
+    EXPECT_EQ(drawing.description, "Column chart." + test.description) << test.columns;
+  }
+}
+
 }  // namespace
 }  // namespace plotsmith

@@ -17,8 +17,7 @@ using xlsx::CellRange;
 double CountedWidth(std::string_view text) { return static_cast<double>(text.size()); }
 
 S RangeText(const CellRange& range) {
-  return xlsx::CellAddress(range.row1, range.column1, false) + ":" +
-         xlsx::CellAddress(range.row2, range.column2, false);
+  return xlsx::CellAddress(range.row1, range.column1) + ":" + xlsx::CellAddress(range.row2, range.column2);
 }
 
 TEST(MergedCellsTest, ContainTheCellsOfTheirRangesInAnyOrderOfRows) {

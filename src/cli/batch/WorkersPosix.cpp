@@ -97,8 +97,9 @@ struct Worker {
 };
 
 /// The main loop of a worker. It reads the number of a task, performs it, and sends the length of the report
-/// and the report. It ends when the parent closes the connection or ends.
-[[noreturn]] void Work(int file, const std::function<std::string(std::size_t)>& run) {
+/// and the report. It ends when the parent closes the connection or ends. An exception ends the process, so
+/// that it never continues with the parent's code.
+[[noreturn]] void Work(int file, const std::function<std::string(std::size_t)>& run) noexcept {
   for (std::uint64_t task = 0; ReadAll(file, &task, sizeof task);) {
     const std::string report = run(static_cast<std::size_t>(task));
     const std::uint64_t size = report.size();

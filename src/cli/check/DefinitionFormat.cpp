@@ -275,15 +275,16 @@ bool ColumnGroup::IsNeededFor(std::string_view type) const { return Contains(nee
 
 const std::vector<ColumnGroup>& ColumnGroups() {
   static const std::vector<ColumnGroup> groups = [] {
+    using enum ColumnGroup::Content;
     Tokens valueTypes = kPivotTypes;
     valueTypes.emplace_back("bubble");
     return std::vector<ColumnGroup>{
-        {"categories", kTypeNames, kTypeNames, false, {"rows", "columns"}},
-        {"series", kTypeNames, kPivotTypes, false, {"rows", "columns", "none"}},
-        {"values", valueTypes, {"bubble"}, true},  // For other types, number columns can replace it.
-        {"x-values", {"bubble"}, {}, true},
-        {"bubble-sizes", {"bubble"}, {}, true},
-        {"sort-order", {"strategic bucket"}, {}, true}};
+        {"categories", kTypeNames, kTypeNames, kNames, {"rows", "columns"}},
+        {"series", kTypeNames, kPivotTypes, kNames, {"rows", "columns", "none"}},
+        {"values", valueTypes, {"bubble"}, kNumbers},  // For other types, number columns can replace it.
+        {"x-values", {"bubble"}, {}, kNumbers},
+        {"bubble-sizes", {"bubble"}, {}, kNumbers},
+        {"sort-order", {"strategic bucket"}, {}, kNumbers}};
   }();
   return groups;
 }

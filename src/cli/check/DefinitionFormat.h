@@ -15,10 +15,12 @@ Findings CheckFormat(const dom::IXMLDOMElement& chart, const std::string& place)
 
 /// A child element of `chart` that names columns.
 struct ColumnGroup {
+  /// The contents that a chart takes from columns.
+  enum class Content { kNames, kNumbers };
   const char* element;                      ///< The name of the element.
   std::vector<std::string_view> readFor;    ///< The chart types that use it.
   std::vector<std::string_view> neededFor;  ///< The chart types that require it.
-  bool numbers;                             ///< Whether its columns give numbers rather than names.
+  Content content;                          ///< The contents that the chart takes from its columns.
   std::vector<std::string_view> headingsIn =
       {};  ///< The values of `headings-in`; empty if it has no such attribute.
 

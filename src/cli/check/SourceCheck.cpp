@@ -158,7 +158,8 @@ class SourceCheck {
   void CheckColumns(const ColumnGroup& group) {
     const auto element = Group(group.element);
     if (!element) return;
-    const bool numbers = group.IsReadFor(type_) && (group.numbers || HeadingsIn(group.element) == "columns");
+    const bool takesNumbers = group.content == ColumnGroup::Content::kNumbers;
+    const bool numbers = group.IsReadFor(type_) && (takesNumbers || HeadingsIn(group.element) == "columns");
     for (const IXMLDOMElement& column : element.selectNodes("column")) {
       const std::string name = GetAttributeText(column, "name");
       if (name.empty()) continue;

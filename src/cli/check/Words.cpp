@@ -26,7 +26,10 @@ std::string OneLine(std::string text) {
 
 std::string Quoted(std::string_view text) {
   if (runtime::Len(text) <= kLongest) return "'" + OneLine(std::string(text)) + "'";
-  return "'" + OneLine(runtime::ToUtf8(runtime::ToUtf16(text).substr(0, kLongest))) + "...'";
+  std::u16string units = runtime::ToUtf16(text).substr(0, kLongest);
+  const bool isHalf = units.back() >= 0xD800 && units.back() <= 0xDBFF;
+  if (isHalf) units.pop_back();  // Don't cut inside a character.
+  return "'" + OneLine(runtime::ToUtf8(units)) + "...'";
 }
 
 std::string ShellWord(const std::string& text) {
@@ -59,7 +62,7 @@ const char* ForCount(std::size_t count, const char* one, const char* several) {
 }
 
 std::string CellText(std::string_view sheet, std::int32_t row, std::int32_t column) {
-  return xlsx::QuotedSheetName(sheet) + "!" + xlsx::CellAddress(row, column, false);
+  return xlsx::QuotedSheetName(sheet) + "!" + xlsx::CellAddress(row, column);
 }
 
 }  // namespace plotsmith::cli

@@ -23,10 +23,8 @@ using Json = nlohmann::ordered_json;
 constexpr const char* kNoDefinitions = "There are no definitions of charts.";
 constexpr const char* kNoTables =
     "There are no tables. To make one, name a sheet Data1, with headings in row 1 and data below them; or "
-    "give "
-    "the data a name that begins with VEX_TableRange, with a title in its first cell and headings in its "
-    "third "
-    "row.";
+    "give the data a name that begins with VEX_TableRange, with a title in its first cell and headings in "
+    "its third row.";
 
 struct Report {
   std::vector<CheckedDefinition> definitions;
@@ -74,11 +72,17 @@ Json FactsOfAll(const List& list) {
   return described;
 }
 
+/// Prints each finding on a line.
+void PrintLines(std::ostream& out, const Findings& findings) {
+  for (const Finding& finding : findings) {
+    out << "  " << finding.place << ": " << SentenceBeforeRun(finding) << '\n';
+  }
+}
+
 /// Ends the line with the subject, and prints each finding on a line below it.
 void Print(std::ostream& out, const Findings& findings) {
   out << (findings.empty() ? ": ok\n" : ":\n");
-  for (const Finding& finding : findings)
-    out << "  " << finding.place << ": " << SentenceBeforeRun(finding) << '\n';
+  PrintLines(out, findings);
 }
 
 void Print(std::ostream& out, const CheckedDefinition& definition) {
@@ -110,9 +114,7 @@ void Print(std::ostream& out, const CheckedTable& checked) {
 void Print(std::ostream& out, const Report& report) {
   for (const CheckedDefinition& definition : report.definitions) Print(out, definition);
   if (report.definitions.empty()) out << kNoDefinitions << '\n';
-  for (const Finding& finding : report.strayCharts) {
-    out << "  " << finding.place << ": " << SentenceBeforeRun(finding) << '\n';
-  }
+  PrintLines(out, report.strayCharts);
   for (const CheckedTable& table : report.tables) Print(out, table);
   if (report.tables.empty()) out << kNoTables << '\n';
 }

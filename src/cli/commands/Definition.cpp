@@ -26,7 +26,7 @@ int DefinitionCommand::Run(const GlobalOptions& options, const Streams& streams)
     throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no chart \"" + chart_ +
                                               "\" (plotsmith charts lists its charts).");
   }
-  streams.out << colCharts->Item(charts[places.front()].first).xml() << '\n';
+  streams.out << colCharts->Item(charts[places.front()].id).xml() << '\n';
   return code;
 }
 

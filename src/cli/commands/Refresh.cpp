@@ -90,11 +90,10 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
   const RefreshCounts counts = session.Counts();
   int code = session.Save(run.output);
   if (pictureFolder_) {
-    std::vector<ChartToDraw> charts;
-    for (auto& [id, chart] : session.StartedCharts()) charts.push_back({id, chart});
     const bool list = !IsStandardOutput(run.output);
     auto writer = std::make_unique<PictureWriter>(PlanOfPictures(), streams, list);
-    const auto drawn = WriteCharts(session.Book(), run.book, charts, std::move(writer), streams);
+    const auto drawn =
+        WriteCharts(session.Book(), run.book, AllToDraw(session.StartedCharts()), std::move(writer), streams);
     if (drawn.hasMessages && code == exit_code::kDone) code = exit_code::kDoneWithMessages;
   }
   if (session.ChartsStarted() > 0 || session.HasMessages()) return {code, counts};

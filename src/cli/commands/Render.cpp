@@ -13,10 +13,10 @@ namespace plotsmith::cli {
 
 void RenderCommand::DeclareOptions(CLI::App& verb) {
   verb.add_option("BOOK", book_, "The workbook")->required();
-  verb.add_option("CHART", charts_,
-                  "The id or the name of a chart; or any chart by its sheet and shape, such as "
-                  "'Sheet1!Chart 2', or by its "
-                  "chart sheet. Without this argument, all charts of Plotsmith are drawn");
+  verb.add_option(
+      "CHART", charts_,
+      "The id or the name of a chart; or any chart by its sheet and shape, such as "
+      "'Sheet1!Chart 2', or by its chart sheet. Without this argument, all charts of Plotsmith are drawn");
   verb.add_option("--sheet", sheet_, "Draw this sheet with its cells and charts, as it is printed")
       ->type_name("SHEET");
   verb.add_flag("--one-page", onePage_, "Draw the sheet on one page that is as large as its contents");

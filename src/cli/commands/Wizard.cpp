@@ -1,6 +1,7 @@
 #include "cli/commands/Wizard.h"
 
 #include <CLI/CLI.hpp>
+#include <cerrno>
 #include <fstream>
 #include <utility>
 #include <vector>
@@ -8,6 +9,7 @@
 #include "cli/FormPrinter.h"
 #include "cli/OtherProgram.h"
 #include "cli/wizard/WizardRun.h"
+#include "runtime/SystemErrors.h"
 #include "runtime/Utf8Path.h"
 #include "runtime/Variant.h"
 
@@ -40,7 +42,8 @@ int WizardCommand::Run(const GlobalOptions& options, const Streams& streams) {
   std::ifstream file(runtime::PathOf(*script_), std::ios::binary);
   // A folder can be opened but not read.
   if (!file || (file.peek() == std::ifstream::traits_type::eof() && !file.eof())) {
-    throw CommandError(exit_code::kFile, "can't read \"" + *script_ + "\".");
+    throw CommandError(exit_code::kFile,
+                       "can't read \"" + *script_ + "\": " + runtime::SystemErrorText(errno) + ".");
   }
   return Play(file, options, streams);
 }

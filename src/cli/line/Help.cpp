@@ -11,8 +11,8 @@ void HelpCommand::DeclareOptions(CLI::App& verb) {
 }
 
 int HelpCommand::Run(const GlobalOptions&, const Streams& streams) {
-  const CommandLine
-      line;  // Use a new command line, because the parsed one would print the help of this verb.
+  // Use a new command line, because the parsed one would print the help of this verb.
+  const CommandLine line;
   if (verb_.empty()) {
     streams.out << line.app.help();
     return exit_code::kDone;

@@ -13,6 +13,8 @@ namespace {
 constexpr const char* kBook = "BOOK";
 constexpr const char* kFile = "FILE";
 constexpr const char* kFolder = "FOLDER";
+/// The names of workbooks in a pattern of a shell: .xlsx, .xlsm, .xltx and .xltm.
+constexpr const char* kBookFiles = "*.xl[st][xm]";
 /// The names of the arguments for a chart type and for a picture format.
 constexpr const char* kType = "TYPE";
 constexpr const char* kFormat = "KIND";
@@ -104,7 +106,7 @@ std::string ZshText(const std::string& text) {
 
 /// Returns the zsh action for an argument, or "" if there is no completion.
 std::string ZshAction(const std::string& name) {
-  if (name == kBook) return "_files -g \"*.xls[xm]\"";
+  if (name == kBook) return std::string("_files -g \"") + kBookFiles + '"';
   if (name == kFile) return "_files";
   if (name == kFolder) return "_files -/";
   if (name == kFormat) return "(" + std::string(kFormats) + ")";
@@ -255,7 +257,8 @@ std::string BashCompletion(const CommandLine& line) {
     )" + kBook +
             R"()
       compopt -o filenames 2>/dev/null
-      mapfile -t COMPREPLY < <(compgen -f -X '!*.xls[xm]' -- "$word"; compgen -d -- "$word") ;;
+      mapfile -t COMPREPLY < <(compgen -f -X '!)" +
+            kBookFiles + R"(' -- "$word"; compgen -d -- "$word") ;;
     )" + kType +
             ") _plotsmith_match < <(printf '%s\\n' " + Joined(QuotedWords(ChartTypes()), " ") + ") ;;\n";
   for (const BookValue& value : kBookValues) {
@@ -274,7 +277,8 @@ std::string ZshCompletion(const CommandLine& line) {
 
 # Offers what the workbook on the line has.
 _plotsmith_ask() {
-  local kind=$1 book=${(Q)words[(r)*.xls[xm]*]} id=
+  local kind=$1 book=${(Q)words[(r))" +
+                       std::string(kBookFiles) + R"(*]} id=
   local -i at=${words[(i)--table]}
   local -a found
   shift

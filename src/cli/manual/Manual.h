@@ -20,9 +20,9 @@ struct OptionView {
   /// Reads the names and texts of an option that the command declares.
   explicit OptionView(const CLI::Option& option);
 
-  std::vector<std::string>
-      names;          ///< The names, such as "-o" and "--output", or the usage name of a positional argument.
-  std::string value;  ///< The usage name of its value; empty for a flag.
+  /// The names, such as "-o" and "--output", or the usage name of a positional argument.
+  std::vector<std::string> names;
+  std::string value;        ///< The usage name of its value; empty for a flag.
   std::string description;  ///< The text of the help.
   bool positional;          ///< Whether it is a positional argument.
   bool required;            ///< Whether it must be given.

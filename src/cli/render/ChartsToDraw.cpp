@@ -21,7 +21,7 @@ namespace {
 /// Returns the ids and names of charts for FindCharts.
 ChartNames NamesOf(const std::vector<DefinedChart>& defined) {
   ChartNames names;
-  for (const DefinedChart& one : defined) names.emplace_back(one.id, one.name);
+  for (const DefinedChart& one : defined) names.push_back({one.id, one.name});
   return names;
 }
 

@@ -18,7 +18,7 @@ struct ChartToDraw {
   excel::Ref<excel::Chart> chart;  ///< Nothing if the workbook has only a definition.
 };
 
-/// Returns all of the charts that have a definition.
+/// Returns charts of Plotsmith for drawing, with their ids as labels.
 std::vector<ChartToDraw> AllToDraw(const std::vector<DefinedChart>& defined);
 
 /// Returns the charts with the given names, each once. A name is the id or the name of a chart of Plotsmith,

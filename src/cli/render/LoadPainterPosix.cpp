@@ -79,8 +79,8 @@ const render::TextMeasure& LoadFonts() {
 const render::Painter& LoadPainter() {
   static const render::Painter& painter = []() -> const render::Painter& {
     const auto* const loaded = Load<render::ModulePainter>(render::kPainterFile, render::kPainterFunction)();
-    loaded->Measure();  // This reads the list of fonts here, because threads that need it at the same time
-                        // would each read it.
+    // This reads the list of fonts, because threads that need it at the same time would each read it.
+    loaded->Measure();
     return *loaded;
   }();
   return painter;

@@ -63,9 +63,10 @@ void PictureWriter::LoadAhead() {
 
 void PictureWriter::Open() {
   if (plan_.target != PicturePlan::Target::kFolder) return;
-  std::error_code error;
-  fs::create_directories(runtime::PathOf(plan_.path), error);
-  if (error && !fs::is_directory(runtime::PathOf(plan_.path)))
+  const fs::path folder = runtime::PathOf(plan_.path);
+  std::error_code error, ignored;
+  fs::create_directories(folder, error);
+  if (error && !fs::is_directory(folder, ignored))
     throw CommandError(exit_code::kFile, "can't make the folder \"" + plan_.path +
                                              "\": " + runtime::SystemErrorText(error.value()) + ".");
 }
@@ -127,8 +128,7 @@ void PictureWriter::PaintPages(const std::vector<render::Drawing>& pages) {
 }
 
 void PictureWriter::Await() {
-  std::exception_ptr failure;
-  const std::size_t done = tasks_.Finish(failure);
+  const auto [done, failure] = tasks_.Finish();
   for (std::size_t i = 0; list_ && i < std::min(done, files_.size()); ++i) {
     if (files_[i].isWritten) streams_.out << files_[i].path << '\n';
   }

@@ -68,12 +68,11 @@ void TaskQueue::WorkUntilThereAre(std::size_t waiting, std::unique_lock<std::mut
   }
 }
 
-std::size_t TaskQueue::Finish(std::exception_ptr& failure) {
+TaskQueue::Outcome TaskQueue::Finish() {
   std::unique_lock lock(mutex_);
   WorkUntilThereAre(0, lock);
   changed_.wait(lock, [&] { return working_ == 0; });
-  failure = failure_;
-  return std::min(given_, firstFailed_);
+  return {std::min(given_, firstFailed_), failure_};
 }
 
 bool TaskQueue::HasFailed() {

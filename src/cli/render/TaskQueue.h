@@ -37,10 +37,13 @@ class TaskQueue {
   /// because one task isn't worth a thread. If many tasks are waiting, this runs some of them, or waits until
   /// the threads have run some.
   void Add(Task task);
-  /// Waits until all tasks are done. Returns the number of tasks, in the order of Add, that were done before
-  /// the first one that failed; `failure` is the exception of that task. After a failure, waiting tasks are
-  /// discarded.
-  std::size_t Finish(std::exception_ptr& failure);
+  /// The result of all tasks.
+  struct Outcome {
+    std::size_t done = 0;        ///< The number of tasks, in the order of Add, before the first failed one.
+    std::exception_ptr failure;  ///< The exception of the first failed task; null if none has failed.
+  };
+  /// Waits until all tasks are done. After a failure, waiting tasks are discarded.
+  Outcome Finish();
   /// Returns true if a task has failed.
   bool HasFailed();
 

@@ -37,7 +37,7 @@ std::optional<std::string> TypeInHand() {
 std::int32_t RowOfChart(const forms::VSFlexGrid& grid, const std::string& idOrName) {
   ChartNames charts;
   for (std::int32_t row = grid.FixedRows(); row < grid.Rows(); ++row) {
-    charts.emplace_back(grid.RowData(row), grid.TextMatrix(row, 0));
+    charts.push_back({grid.RowData(row), grid.TextMatrix(row, 0)});
   }
   const auto places = FindCharts(charts, idOrName);
   if (places.size() > 1) throw ScriptError(SeveralCharts(charts, places, idOrName));

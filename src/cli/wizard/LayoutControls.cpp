@@ -7,14 +7,15 @@
 namespace plotsmith::cli {
 namespace {
 
-const LayoutControls kAbc = {.categories = "cboCategories",
-                             .series = "cboSeries",
-                             .hasColumns = true,
-                             .values = "cboValues",
-                             .numberFormat = "cboDataLabelMask",
-                             .hasAxes = true,
-                             .labels = {{"values", "chkShowValues"}, {"none", "chkShowValues", false}},
-                             .settings = {{"3D", "chk3D"}, {"stacked", "chkStacked"}, {"100%", "chk100Pct"}}};
+const LayoutControls kAbc = {
+    .categories = "cboCategories",
+    .series = "cboSeries",
+    .hasColumns = true,
+    .values = "cboValues",
+    .numberFormat = "cboDataLabelMask",
+    .hasAxes = true,
+    .labels = {{"values", "chkShowValues"}, {.word = "none", .control = "chkShowValues", .checks = false}},
+    .settings = {{"3D", "chk3D"}, {"stacked", "chkStacked"}, {"100%", "chk100Pct"}}};
 
 const LayoutControls kPie = {.categories = "lstCategories",
                              .values = "cboValues",
@@ -36,13 +37,14 @@ const LayoutControls kBubble = {.categories = "cboCategories",
                                              {"autoscale-y", "chkScaleYAxis"},
                                              {"show-zero-bubbles", "chkShowZeroBubbles"}}};
 
-const LayoutControls kBucket = {.categories = "cboCategories",
-                                .series = "cboSeries",
-                                .bucketTables = "cboBucketTables",
-                                .sortBy = "cboBlockSequence",
-                                .numberFormat = "cboDataLabelMask",
-                                .hasAxes = true,
-                                .labels = {{"names", "chkShowNames"}, {"none", "chkShowNames", false}}};
+const LayoutControls kBucket = {
+    .categories = "cboCategories",
+    .series = "cboSeries",
+    .bucketTables = "cboBucketTables",
+    .sortBy = "cboBlockSequence",
+    .numberFormat = "cboDataLabelMask",
+    .hasAxes = true,
+    .labels = {{"names", "chkShowNames"}, {.word = "none", .control = "chkShowNames", .checks = false}}};
 
 struct TypeOfChart {
   std::string_view name;

@@ -11,7 +11,7 @@ namespace plotsmith::cli {
 struct NamedControl {
   std::string_view word;  ///< The value on the command line.
   const char* control;    ///< The name of the control.
-  bool on = true;         ///< Whether the value checks or unchecks a check box.
+  bool checks = true;     ///< Whether the value checks a check box. Otherwise it unchecks the box.
 };
 
 /// The names of the controls of a layout page, for the options of the command. A null pointer means that the
@@ -19,8 +19,8 @@ struct NamedControl {
 struct LayoutControls {
   const char* categories = nullptr;  ///< The list of label columns for categories, slices, bubbles or blocks.
   const char* series = nullptr;      ///< The list of label columns for series.
-  bool hasColumns =
-      false;  ///< Whether number columns can be the categories or the series (optCategories, optSeries).
+  /// Whether number columns can be the categories or the series (optCategories, optSeries).
+  bool hasColumns = false;
   const char* values = nullptr;        ///< The list of number columns for values, or for Y values.
   const char* xValues = nullptr;       ///< The list of number columns for X values.
   const char* sizes = nullptr;         ///< The list of number columns for bubble sizes.

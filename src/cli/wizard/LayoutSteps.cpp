@@ -108,7 +108,8 @@ void AddLabels(Steps& steps, const LayoutOptions& options, const LayoutControls&
     const std::string option = "--labels " + *options.labels;
     const NamedControl& label = ControlOfWord(layout.labels, *options.labels, "labels", type);
     const bool isOption = std::string_view(label.control).starts_with("opt");
-    steps.push_back(isOption ? OptionStep(label.control, option) : TickStep(label.control, label.on, option));
+    steps.push_back(isOption ? OptionStep(label.control, option)
+                             : TickStep(label.control, label.checks, option));
   }
   const auto add = [&](const char* control, const std::optional<std::string>& text, const char* option) {
     if (text) steps.push_back(TypeStep(control, *text, option));

@@ -77,8 +77,7 @@ Word PlainWord(std::string_view line, std::size_t& at) {
   at = end;
   if (word.text.find('"') != std::string::npos) {
     throw ScriptError(
-        "a text with a quotation mark in it is put in double quotes, and the mark is written "
-        "\\\"");
+        "a text with a quotation mark in it is put in double quotes, and the mark is written \\\"");
   }
   return word;
 }

@@ -272,7 +272,7 @@ void BookView::ShowActiveCell() {
     return;
   }
   const xlsx::CellPlace cell = sheet->ActiveCell();
-  address_->setText(ToQString(xlsx::CellAddress(cell.row, cell.column, false)));
+  address_->setText(ToQString(xlsx::CellAddress(cell.row, cell.column)));
   content_->setText(sheet->ActiveText().simplified());
 }
 

@@ -31,6 +31,10 @@ QColor Between(const QColor& a, const QColor& b, double share) {
                           mixed(a.blueF(), b.blueF()));
 }
 
+QColor TextShade(const QPalette& palette, double share) {
+  return Between(palette.color(QPalette::Base), palette.color(QPalette::Text), share);
+}
+
 QColor FromExcel(std::int32_t color) { return {color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF}; }
 
 QColor Readable(const QColor& wanted, const QColor& background, const QPalette& palette) {

@@ -10,6 +10,9 @@ namespace plotsmith::qtbook {
 
 /// Mixes two colours. `share` is the share of `b`, from 0 to 1.
 QColor Between(const QColor& a, const QColor& b, double share);
+/// Returns the colour of the palette's texts, faded into their background. `share` is the share of the
+/// colour, from 0 to 1.
+QColor TextShade(const QPalette& palette, double share);
 /// Converts Excel's colour: red + 256 * green + 65536 * blue.
 QColor FromExcel(std::int32_t color);
 /// Returns `wanted` if it is legible on the background, or the more legible one of the palette's text and

@@ -36,7 +36,7 @@ void PaintCaption(QPainter& painter, const ChartCaption& caption, const QRect& a
   painter.setPen(palette.color(QPalette::Text));
   painter.drawText(QRect(inside.left(), top, inside.width(), titleHeight), flags, caption.title);
   painter.setFont(font);
-  painter.setPen(Between(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.6));
+  painter.setPen(TextShade(palette, 0.6));
   painter.drawText(QRect(inside.left(), top + titleHeight, inside.width(), typeHeight), flags, caption.type);
 }
 
@@ -49,10 +49,10 @@ void PaintOutline(QPainter& painter, const QRect& area, const QPen& pen) {
 /// Paints a shape that isn't a chart: its outline and its text.
 void PaintOther(QPainter& painter, const ShownFrame& frame, const QRect& area, const QPalette& palette,
                 const QFont& font) {
-  const QColor line = Between(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.35);
+  const QColor line = TextShade(palette, 0.35);
   PaintOutline(painter, area, QPen(line, 1, Qt::DashLine));
   painter.setFont(font);
-  painter.setPen(Between(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.7));
+  painter.setPen(TextShade(palette, 0.7));
   painter.drawText(area.adjusted(kMargin, kMargin / 2, -kMargin, -kMargin / 2),
                    Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, frame.label);
 }
@@ -132,8 +132,7 @@ void FramePainter::Paint(QPainter& painter, std::size_t index, const ShownFrame&
       painter.drawPixmap(area, picture);
     } else {
       painter.fillRect(area, palette.color(QPalette::Base));
-      PaintOutline(painter, area,
-                   Between(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.35));
+      PaintOutline(painter, area, TextShade(palette, 0.35));
       PaintCaption(painter, KeptCaption(index, frame), area, palette, font);
     }
   }

@@ -197,9 +197,7 @@ void SheetView::ScrollTo(const QRect& place) {
 
 CellPlace SheetView::FirstOfMerged(const CellPlace& cell) {
   for (const CellRange& range : source_.MergedCells()) {
-    if (cell.row >= range.row1 && cell.row <= range.row2 && cell.column >= range.column1 &&
-        cell.column <= range.column2)
-      return {range.row1, range.column1};
+    if (range.Contains(cell)) return {range.row1, range.column1};
   }
   return cell;
 }

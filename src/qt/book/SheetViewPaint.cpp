@@ -20,18 +20,17 @@ namespace {
 constexpr double kGridLine = 0.13, kHeadLine = 0.2, kFreezeLine = 0.45, kActiveHead = 0.35;
 /// The number of columns to the left of the window that are searched for a text that extends into it.
 constexpr std::int32_t kMostSpread = 30;
+/// The margin around the sentence for a sheet that can't be read, in pixels.
+constexpr int kFailureMargin = 30;
 
 QRect AreaOf(const Line& row, const Line& column) { return {column.edge, row.edge, column.size, row.size}; }
-
-bool Holds(const CellRange& range, std::int32_t row, std::int32_t column) {
-  return row >= range.row1 && row <= range.row2 && column >= range.column1 && column <= range.column2;
-}
 
 }  // namespace
 
 bool SheetView::PaneCells::IsMerged(std::int32_t row, std::int32_t column) const {
-  return std::any_of(merged.begin(), merged.end(),
-                     [&](const CellRange& range) { return Holds(range, row, column); });
+  return std::any_of(merged.begin(), merged.end(), [&](const CellRange& range) {
+    return range.Contains({row, column});
+  });
 }
 
 /// Returns true if the text of a neighbour may extend over the cell.
@@ -57,8 +56,9 @@ void SheetView::paintEvent(QPaintEvent*) {
   painter.fillRect(viewport()->rect(), palette().color(QPalette::Base));
   painter.setPen(palette().color(QPalette::Text));
   painter.setFont(font());
-  painter.drawText(viewport()->rect().adjusted(kMostSpread, kMostSpread, -kMostSpread, -kMostSpread),
-                   Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, unreadable_);
+  painter.drawText(
+      viewport()->rect().adjusted(kFailureMargin, kFailureMargin, -kFailureMargin, -kFailureMargin),
+      Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, unreadable_);
 }
 
 SheetView::PaneCells SheetView::CellsOf(const Pane& pane) {
@@ -92,7 +92,7 @@ void SheetView::PaintPane(QPainter& painter, const Pane& pane, CellPainter& cell
 
 void SheetView::PaintGridLines(QPainter& painter, const Pane& pane, const PaneCells& shown) {
   if (shown.cells.empty()) return;
-  const QColor color = Between(palette().color(QPalette::Base), palette().color(QPalette::Text), kGridLine);
+  const QColor color = TextShade(palette(), kGridLine);
   const Line &lastRow = shown.rows.back(), &lastColumn = shown.columns.back();
   const int right = pane.origin.x() + lastColumn.edge + lastColumn.size;
   const int bottom = pane.origin.y() + lastRow.edge + lastRow.size;
@@ -245,7 +245,7 @@ void SheetView::PaintFrames(QPainter& painter, const Pane& pane) {
 void SheetView::PaintActiveCell(QPainter& painter, const Pane& pane) {
   CellRange cell{activeCell_.row, activeCell_.column, activeCell_.row, activeCell_.column};
   for (const CellRange& range : source_.MergedCells()) {
-    if (Holds(range, activeCell_.row, activeCell_.column)) cell = range;
+    if (range.Contains(activeCell_)) cell = range;
   }
   const QRect area = PlaceOf(cell).translated(pane.origin);
   if (!area.intersects(pane.area)) return;
@@ -260,7 +260,7 @@ void SheetView::PaintActiveCell(QPainter& painter, const Pane& pane) {
 
 void SheetView::PaintFreezeLines(QPainter& painter) {
   const QRect body = BodyArea();
-  const QColor color = Between(palette().color(QPalette::Base), palette().color(QPalette::Text), kFreezeLine);
+  const QColor color = TextShade(palette(), kFreezeLine);
   if (body.left() > headWidth_) painter.fillRect(body.left() - 1, 0, 1, viewport()->height(), color);
   if (body.top() > headHeight_) painter.fillRect(0, body.top() - 1, viewport()->width(), 1, color);
 }

@@ -77,8 +77,8 @@ void ControlView::DiscardGestures() {
 }
 
 void ControlView::Update() {
-  if (waiting_ > 0)
-    return;  // The widget is newer than the control, for example because the user types while a page works.
+  // The widget is newer than the control, for example because the user types while a page works.
+  if (waiting_ > 0) return;
   if (model_.Changes() == shown_ && !std::exchange(touched_, false)) return;
   touched_ = false;
   shown_ = model_.Changes();

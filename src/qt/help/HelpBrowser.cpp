@@ -11,7 +11,6 @@ namespace plotsmith::qt {
 namespace {
 
 constexpr const char* kUnknownTopicScheme = "unknown-topic";
-constexpr const char* kFirstPage = "index.html";
 
 /// Returns the path of a file or of a resource.
 QString PathOf(const QUrl& address) {

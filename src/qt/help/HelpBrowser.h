@@ -5,6 +5,9 @@
 
 namespace plotsmith::qt {
 
+/// The file with the first page, which lists all others.
+inline constexpr const char* kFirstPage = "index.html";
+
 /// Shows the help pages of a folder. If a page doesn't exist, it shows a message.
 class HelpBrowser final : public QTextBrowser {
  public:

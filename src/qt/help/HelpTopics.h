@@ -9,8 +9,8 @@ namespace plotsmith::qt {
 
 /// A help page, from its row in topics.tsv.
 struct HelpTopic {
-  std::optional<std::int32_t>
-      number;     ///< The number with which a page of the wizard opens it; absent for other pages.
+  /// The number with which a page of the wizard opens it; absent for other pages.
+  std::optional<std::int32_t> number;
   QString file;   ///< The file name, such as "topic1-select-action.html".
   QString title;  ///< The title of the page.
 };

@@ -18,7 +18,6 @@ namespace plotsmith::qt {
 namespace {
 
 constexpr const char* kTitle = "Plotsmith Help";
-constexpr const char* kFirstPage = "index.html";
 constexpr int kWidth = 1080, kHeight = 760, kListWidth = 230;  // In pixels at scale 1.
 
 }  // namespace

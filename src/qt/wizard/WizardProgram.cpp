@@ -15,7 +15,6 @@ namespace plotsmith::qt {
 namespace {
 
 constexpr const char* kLinePrefix = "plotsmith: ";  ///< The beginning of each line of the session.
-constexpr const char* kWorkbooks = "Workbooks (*.xlsx *.xlsm *.xltx *.xltm)";
 
 }  // namespace
 
@@ -79,10 +78,13 @@ bool WizardProgram::CheckBeforeRun() {
   try {
     session_.CheckBeforeRun(cli::DefinitionsAre::kEdited);
     return true;
-  } catch (const cli::CommandError&) {
+  } catch (const cli::RunRefused& refused) {
+    const QString consequence = refused.Lost() > 0
+                                    ? QStringLiteral("The wizard would drop these definitions.")
+                                    : QStringLiteral("Charts could be confused with each other.");
     return ShowMessageBox(
                window_.get(), QMessageBox::Warning,
-               TakeMessages() + QStringLiteral("\n\nThe wizard would drop these definitions. Continue?"),
+               TakeMessages() + QStringLiteral("\n\n") + consequence + QStringLiteral(" Continue?"),
                QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Ok;
   }
 }
@@ -147,7 +149,8 @@ std::optional<WizardProgram::Next> WizardProgram::AskBeforeClosing() {
 }
 
 std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
-  QFileDialog dialog(window_.get(), QStringLiteral("Save As"), Target(), QString::fromLatin1(kWorkbooks));
+  QFileDialog dialog(window_.get(), QStringLiteral("Save As"), Target(),
+                     QString::fromLatin1(kWorkbookFilter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QFileInfo(TextOf(options_.book)).suffix());
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // Qt would ask in its own event loop.

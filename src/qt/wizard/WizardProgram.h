@@ -14,11 +14,14 @@
 
 namespace plotsmith::qt {
 
+/// The filter for workbooks in file dialogs.
+inline constexpr const char* kWorkbookFilter = "Workbooks (*.xlsx *.xlsm *.xltx *.xltm)";
+
 /// The arguments of the wizard.
 struct WizardOptions {
   std::string book;  ///< The path of the workbook.
-  std::optional<std::string>
-      output;  ///< The output file; if absent, the user is asked when there is something to save.
+  /// The output file; if absent, the user is asked when there is something to save.
+  std::optional<std::string> output;
   cli::GlobalOptions global;  ///< The options that apply to all verbs of the command.
 };
 
@@ -36,8 +39,8 @@ class WizardProgram {
   /// What follows a run.
   enum class Next { kRunAgain, kQuit };
 
-  /// Checks the definitions. If the run would lose some, asks the user. Returns false if the run must not
-  /// begin.
+  /// Checks the definitions. If the run would lose some, or if charts could be confused, asks the user.
+  /// Returns false if the run must not begin.
   bool CheckBeforeRun();
   /// Shows the messages of the session, if any.
   void ShowMessages();

@@ -15,7 +15,7 @@ using plotsmith::qt::TextOf;
 /// Asks the user for a workbook if the program was started without one. Returns "" if none is selected.
 std::string PickBook() {
   QFileDialog dialog(nullptr, QStringLiteral("Open a workbook"), QString(),
-                     QStringLiteral("Workbooks (*.xlsx *.xlsm *.xltx *.xltm)"));
+                     QString::fromLatin1(plotsmith::qt::kWorkbookFilter));
   dialog.setFileMode(QFileDialog::ExistingFile);
   if (plotsmith::qt::RunDialog(dialog) != QDialog::Accepted) return {};
   return TextOf(dialog.selectedFiles().front());

@@ -21,8 +21,8 @@ class CairoFonts final : public TextMeasure {
   void Show(cairo_t* cr, std::string_view line, const Font& font) const;
 
  private:
-  PlainFonts
-      plain_;  ///< Before the texts, because Pango would read the list of fonts in a thread of its own.
+  /// Before the texts, because Pango would read the list of fonts in a thread of its own.
+  PlainFonts plain_;
   PangoTexts texts_;
 };
 

@@ -2,17 +2,13 @@
 
 #include <cairo.h>
 #include <cstring>
-#include <memory>
 #include <string_view>
 
 #include "render/Images.h"
+#include "render/cairo/CairoPaint.h"
 
 namespace plotsmith::render {
 namespace {
-
-struct DestroySurface {
-  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-};
 
 /// Copies the next bytes from the front of a std::string_view and removes them from it.
 cairo_status_t Take(void* rest, unsigned char* data, unsigned length) {
@@ -28,8 +24,7 @@ cairo_status_t Take(void* rest, unsigned char* data, unsigned length) {
 void PaintImage(cairo_t* cr, const ImageItem& image) {
   if (!IsDrawableImage(image.bytes)) return;
   std::string_view rest = image.bytes;
-  const std::unique_ptr<cairo_surface_t, DestroySurface> surface(
-      cairo_image_surface_create_from_png_stream(Take, &rest));
+  const Surface surface(cairo_image_surface_create_from_png_stream(Take, &rest));
   if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS) return;
   const Rect& place = image.place;
   if (!(place.width > 0 && place.height > 0)) return;

@@ -17,15 +17,6 @@ struct DestroyPattern {
 };
 using Pattern = std::unique_ptr<cairo_pattern_t, DestroyPattern>;
 
-struct DestroySurface {
-  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-};
-using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
-
-void SetColor(cairo_t* cr, const Color& color) {
-  cairo_set_source_rgba(cr, color.red / 255.0, color.green / 255.0, color.blue / 255.0, color.alpha);
-}
-
 void SetGradient(cairo_t* cr, const GradientFill& gradient, const Rect& bounds) {
   if (!(bounds.width > 0 && bounds.height > 0)) return SetColor(cr, gradient.stops.front().color);
   Pattern pattern;
@@ -85,6 +76,10 @@ void SetPattern(cairo_t* cr, const PatternFill& fill, const PatternTile& tile) {
 }
 
 }  // namespace
+
+void SetColor(cairo_t* cr, const Color& color) {
+  cairo_set_source_rgba(cr, color.red / 255.0, color.green / 255.0, color.blue / 255.0, color.alpha);
+}
 
 void Trace(cairo_t* cr, const Path& path) {
   cairo_new_path(cr);

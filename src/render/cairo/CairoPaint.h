@@ -23,6 +23,9 @@ using Surface = std::unique_ptr<cairo_surface_t, DestroySurface>;
 using Context = std::unique_ptr<cairo_t, DestroyContext>;
 ///@}
 
+/// Makes a colour with its opacity the source of the next painting.
+void SetColor(cairo_t* cr, const Color& color);
+
 /// Makes an outline the current path.
 void Trace(cairo_t* cr, const Path& path);
 

@@ -5,6 +5,7 @@
 #include <cairo.h>
 #include <cmath>
 #include <memory>
+#include <new>
 #include <numbers>
 #include <optional>
 #include <stdexcept>
@@ -19,13 +20,18 @@
 namespace plotsmith::render {
 namespace {
 
+/// Appends data to a std::string. No exception may pass through Cairo, which is written in C.
 cairo_status_t Append(void* bytes, const unsigned char* data, unsigned length) {
-  static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
-  return CAIRO_STATUS_SUCCESS;
+  try {
+    static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+    return CAIRO_STATUS_SUCCESS;
+  } catch (const std::bad_alloc&) {
+    return CAIRO_STATUS_NO_MEMORY;
+  }
 }
 
 void SetStroke(cairo_t* cr, const Stroke& stroke) {
-  SetSource(cr, SolidFill{stroke.color}, {});
+  SetColor(cr, stroke.color);
   cairo_set_line_width(cr, stroke.width);
   cairo_set_dash(cr, stroke.dashes.data(), static_cast<int>(stroke.dashes.size()), 0);
   cairo_set_line_cap(cr, stroke.cap == LineCap::kRound    ? CAIRO_LINE_CAP_ROUND
@@ -70,7 +76,7 @@ bool MayBeStrokedInPieces(const PathItem& item) {
 
 class ItemPainter {
  public:
-  /// If `pixels` isn't null, vertical and horizontal lines and edges are moved onto the pixels of a picture.
+  /// With `pixels`, vertical and horizontal lines and edges are moved onto the pixels of a picture.
   ItemPainter(cairo_t* cr, const CairoFonts& fonts, std::optional<PixelScale> pixels)
       : cr_(cr), fonts_(fonts), pixels_(pixels) {}
   ~ItemPainter() {
@@ -112,7 +118,7 @@ class ItemPainter {
     if (item.align != TextAlign::kStart) {
       cairo_translate(cr_, item.align == TextAlign::kMiddle ? -item.width / 2 : -item.width, 0);
     }
-    SetSource(cr_, SolidFill{item.color}, {});
+    SetColor(cr_, item.color);
     fonts_.Show(cr_, item.text, item.font);
     cairo_restore(cr_);
   }
@@ -166,8 +172,8 @@ void Paint(cairo_t* cr, const Drawing& drawing, const CairoFonts& fonts) {
 
 namespace {
 
-/// Paints a drawing on a white background.
-Surface PaintImage(const Drawing& drawing, const CairoFonts& fonts, double dpi) {
+/// Returns an image with the drawing on a white background.
+Surface PaintedImage(const Drawing& drawing, const CairoFonts& fonts, double dpi) {
   constexpr double kMostPixels = 1e8;
   const double scale = dpi / 72;
   const double width = std::round(drawing.width * scale), height = std::round(drawing.height * scale);
@@ -198,12 +204,12 @@ Pixels PixelsOf(cairo_surface_t* image) {
 }  // namespace
 
 std::string MakePng(const Drawing& drawing, const CairoFonts& fonts, double dpi) {
-  const Surface surface = PaintImage(drawing, fonts, dpi);
+  const Surface surface = PaintedImage(drawing, fonts, dpi);
   return EncodePng(PixelsOf(surface.get()), dpi);
 }
 
 Raster MakeRaster(const Drawing& drawing, const CairoFonts& fonts, double dpi) {
-  const Surface surface = PaintImage(drawing, fonts, dpi);
+  const Surface surface = PaintedImage(drawing, fonts, dpi);
   const Pixels pixels = PixelsOf(surface.get());
   Raster raster{static_cast<int>(pixels.width), static_cast<int>(pixels.height), {}};
   raster.values.reserve(pixels.width * pixels.height);

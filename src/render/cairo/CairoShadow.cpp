@@ -23,10 +23,6 @@ void PaintForm(cairo_t* cr, const ShadowItem& item) {
   cairo_new_path(cr);
 }
 
-void SetColor(cairo_t* cr, const Color& color) {
-  cairo_set_source_rgba(cr, color.red / 255.0, color.green / 255.0, color.blue / 255.0, color.alpha);
-}
-
 /// The bytes of a mask in rows.
 struct Mask {
   unsigned char* data;

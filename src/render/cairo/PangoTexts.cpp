@@ -7,13 +7,13 @@
 #include <unordered_map>
 #include <utility>
 
+#include "render/fonts/FontCache.h"
 #include "render/fonts/FontHeights.h"
 #include "render/fonts/InstalledFonts.h"
 
 namespace plotsmith::render {
 namespace {
 
-constexpr std::size_t kMostTexts = 8000;
 constexpr std::size_t kLongestText = 4096;  // bytes; the rest doesn't fit on any chart
 constexpr double kPointsPerInch = 72;       // A unit of the picture is a point.
 
@@ -53,6 +53,15 @@ std::string Presentable(std::string_view text) {
   return result;
 }
 
+Description DescriptionOf(const Font& font) {
+  Description description(pango_font_description_new());
+  pango_font_description_set_family(description.get(), DrawnFamily(font).c_str());
+  pango_font_description_set_size(description.get(), static_cast<int>(font.size * PANGO_SCALE));
+  pango_font_description_set_weight(description.get(), font.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
+  pango_font_description_set_style(description.get(), font.italic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
+  return description;
+}
+
 struct PangoEntry {
   Description description;
   FontHeights heights;
@@ -64,34 +73,23 @@ struct PangoEntry {
 struct PangoTexts::State {
   std::mutex mutex;  ///< Only one thread at a time may use Pango's objects.
   std::unique_ptr<PangoContext, Release> context{NewContext()};
-  std::unordered_map<Font, PangoEntry, FontHash> fonts;
-  std::size_t texts = 0;
+  FontCache<PangoEntry> fonts;
 
   PangoEntry& EntryOf(const Font& font) {
-    const auto [found, isNew] = fonts.try_emplace(font);
-    PangoEntry& entry = found->second;
-    if (!isNew) return entry;
-    entry.description.reset(pango_font_description_new());
-    pango_font_description_set_family(entry.description.get(), DrawnFamily(font).c_str());
-    pango_font_description_set_size(entry.description.get(), static_cast<int>(font.size * PANGO_SCALE));
-    pango_font_description_set_weight(entry.description.get(),
-                                      font.bold ? PANGO_WEIGHT_BOLD : PANGO_WEIGHT_NORMAL);
-    pango_font_description_set_style(entry.description.get(),
-                                     font.italic ? PANGO_STYLE_ITALIC : PANGO_STYLE_NORMAL);
-    const std::unique_ptr<PangoFont, Release> loaded(
-        pango_context_load_font(context.get(), entry.description.get()));
-    entry.heights = HeightsOf(loaded ? pango_font_get_hb_font(loaded.get()) : nullptr, font.size);
-    return entry;
+    return fonts.Find(font, [&] {
+      PangoEntry entry{DescriptionOf(font), {}, {}};
+      const std::unique_ptr<PangoFont, Release> loaded(
+          pango_context_load_font(context.get(), entry.description.get()));
+      entry.heights = HeightsOf(loaded ? pango_font_get_hb_font(loaded.get()) : nullptr, font.size);
+      return entry;
+    });
   }
 
   PangoLayout* LayoutOf(PangoEntry& entry, std::string_view line, const Font& font) {
     const std::string text = Presentable(line);
     const auto found = entry.texts.find(text);
     if (found != entry.texts.end()) return found->second.get();
-    if (++texts > kMostTexts) {
-      for (auto& [key, other] : fonts) other.texts.clear();
-      texts = 1;
-    }
+    fonts.MakeRoom();
     Layout layout(pango_layout_new(context.get()));
     pango_layout_set_font_description(layout.get(), entry.description.get());
     pango_layout_set_single_paragraph_mode(layout.get(), TRUE);

@@ -18,8 +18,8 @@ bool IsUpright(const Path& path) {
 Path OnPixels(const Path& path, const PixelScale& scale, double strokeWidth) {
   const bool odd = strokeWidth > 0 && std::lround(WidthOnPixels(strokeWidth, scale) * scale.x) % 2 == 1;
   const auto snap = [&](double place, double pixels) {
-    constexpr double kDust =
-        1e-6;  // Positions on an edge between pixels are always rounded to the same side.
+    // Positions on an edge between pixels are always rounded to the same side.
+    constexpr double kDust = 1e-6;
     const double at = place * pixels + kDust;
     return (odd ? std::floor(at) + 0.5 : std::round(at)) / pixels;
   };

@@ -1,11 +1,12 @@
 #include "render/chart/Description.h"
 
 #include <cmath>
+#include <vector>
 
 namespace plotsmith::render {
 namespace {
 
-// The maximum number of points of all series together. More would take a screen reader too long.
+/// The maximum number of points of all series together. More would take a screen reader too long.
 constexpr std::size_t kMostDescribed = 200;
 
 const char* KindName(const GroupModel& group) {
@@ -71,28 +72,43 @@ std::string TextOf(const RichText& rich) {
   return text;
 }
 
+/// Returns the indexes of the points with a value.
+std::vector<std::size_t> DescribedPoints(const SeriesModel& series) {
+  std::vector<std::size_t> points;
+  const std::size_t others = series.secondPlot.empty() ? 0 : 1;  // the point "Other" repeats values
+  for (std::size_t i = 0; i + others < series.values.size(); ++i) {
+    if (std::isfinite(series.values[i])) points.push_back(i);
+  }
+  return points;
+}
+
+/// Returns the groups and series of a chart, one per line, with the values of the first points.
+std::string ValuesOf(const ChartModel& chart) {
+  std::string text;
+  std::size_t left = kMostDescribed;
+  for (const GroupModel& group : chart.groups) {
+    text += std::string(text.empty() ? "" : "\n") + KindName(group) + ".";
+    for (const SeriesModel& series : group.series) {
+      const std::vector<std::size_t> points = DescribedPoints(series);
+      if (left > 0 || points.empty()) text += "\n" + series.name + ":";
+      const char* comma = " ";
+      for (const std::size_t i : points) {
+        if (left == 0) return text + "\nThere are more values.";
+        --left;
+        text += comma + PointText(chart, group, series, i);
+        comma = ", ";
+      }
+    }
+  }
+  return text;
+}
+
 }  // namespace
 
 void Describe(const ChartModel& chart, Drawing& drawing) {
   if (chart.title) drawing.title = TextOf(chart.title->text);
   if (drawing.title.empty() && !chart.groups.empty()) drawing.title = KindName(chart.groups.front());
-  std::size_t left = kMostDescribed;
-  for (const GroupModel& group : chart.groups) {
-    drawing.description += std::string(drawing.description.empty() ? "" : "\n") + KindName(group) + ".";
-    for (const SeriesModel& series : group.series) {
-      if (left == 0) break;
-      drawing.description += "\n" + series.name + ":";
-      const char* comma = " ";
-      const std::size_t others = series.secondPlot.empty() ? 0 : 1;  // the point "Other" repeats values
-      for (std::size_t i = 0; i + others < series.values.size() && left > 0; ++i) {
-        if (!std::isfinite(series.values[i])) continue;
-        --left;
-        drawing.description += comma + PointText(chart, group, series, i);
-        comma = ", ";
-      }
-    }
-  }
-  if (left == 0) drawing.description += ", and more";
+  drawing.description = ValuesOf(chart);
 }
 
 }  // namespace plotsmith::render

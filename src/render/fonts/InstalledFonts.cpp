@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fontconfig/fontconfig.h>
+#include <functional>
 
 #include "render/FontSubstitutes.h"
 

@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "render/fonts/FontCache.h"
 #include "render/fonts/FontHeights.h"
 #include "render/fonts/InstalledFonts.h"
 #include "runtime/Ascii.h"
@@ -17,7 +18,6 @@
 namespace plotsmith::render {
 namespace {
 
-constexpr std::size_t kMostTexts = 8000;
 constexpr std::size_t kLongestText = 4096;  // bytes
 constexpr double kUnits = 1024;  // units of a point; Pango has the same, so that widths are rounded alike
 
@@ -151,25 +151,18 @@ struct FontEntry {
   std::unordered_map<std::string, std::optional<double>, TextHash, std::equal_to<>> texts;
 };
 
+FontEntry EntryOf(const Font& font) {
+  HbFont loaded = Load(font);
+  const FontHeights heights = HeightsOf(loaded.get(), font.size);
+  return {std::move(loaded), heights, {}};
+}
+
 }  // namespace
 
 struct PlainFonts::State {
   std::mutex mutex;
-  std::unordered_map<Font, FontEntry, FontHash> fonts;
-  std::pair<const Font, FontEntry>* recent = nullptr;
-  std::size_t texts = 0;
+  FontCache<FontEntry> fonts;
   std::unique_ptr<hb_buffer_t, DestroyBuffer> buffer{hb_buffer_create()};
-
-  FontEntry& EntryOf(const Font& font) {
-    if (recent != nullptr && recent->first == font) return recent->second;
-    const auto [found, isNew] = fonts.try_emplace(font);
-    recent = &*found;
-    FontEntry& entry = found->second;
-    if (!isNew) return entry;
-    entry.font = Load(font);
-    entry.heights = HeightsOf(entry.font.get(), font.size);
-    return entry;
-  }
 
   std::optional<double> Shape(std::string_view text, Kind kind, hb_font_t* font) const {
     const int size = static_cast<int>(text.size());
@@ -197,10 +190,7 @@ struct PlainFonts::State {
   std::optional<double> WidthOf(FontEntry& entry, std::string_view text, Kind kind) {
     const auto found = entry.texts.find(text);
     if (found != entry.texts.end()) return found->second;
-    if (++texts > kMostTexts) {
-      for (auto& [key, other] : fonts) other.texts.clear();
-      texts = 1;
-    }
+    fonts.MakeRoom();
     return entry.texts.emplace(text, Shape(text, kind, entry.font.get())).first->second;
   }
 };
@@ -215,7 +205,7 @@ TextExtent PlainFonts::Measure(std::string_view line, const Font& font) const {
   const Kind kind = KindOf(line);
   if (kind != Kind::kOther) {
     const std::scoped_lock lock(state_->mutex);
-    FontEntry& entry = state_->EntryOf(font);
+    FontEntry& entry = state_->fonts.Find(font, [&] { return EntryOf(font); });
     const auto width = entry.font ? state_->WidthOf(entry, line, kind) : std::nullopt;
     if (width) return {*width, entry.heights.ascent, entry.heights.descent};
   }

@@ -82,8 +82,8 @@ class WorksheetPages {
     if (cuts.count > cuts.pages.size() && paper_ == Paper::kOne) {
       const xlsx::CellRange& drawn = cuts.pages.front();
       notes_.push_back("The sheet is larger than one page can be, which is 14400 by 14400 points; " +
-                       xlsx::CellAddress(drawn.row1, drawn.column1, false) + " to " +
-                       xlsx::CellAddress(drawn.row2, drawn.column2, false) + " is drawn.");
+                       xlsx::CellAddress(drawn.row1, drawn.column1) + " to " +
+                       xlsx::CellAddress(drawn.row2, drawn.column2) + " is drawn.");
     } else if (cuts.count > cuts.pages.size()) {
       notes_.push_back("The sheet has " + std::to_string(cuts.count) + " pages; the first " +
                        std::to_string(cuts.pages.size()) + " are drawn.");

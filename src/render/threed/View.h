@@ -9,8 +9,8 @@ namespace plotsmith::render {
 struct View {
   double elevation = 15;  ///< Degrees from -90 to 90; positive for a view from above (rotX).
   double rotation = 20;   ///< Degrees from 0 to 360; right sides are visible between 0 and 180 (rotY).
-  bool rightAngles =
-      true;  ///< Whether the front isn't distorted, and the depth goes sideways and up (rAngAx).
+  /// Whether the front isn't distorted, and the depth goes sideways and up (rAngAx).
+  bool rightAngles = true;
   double fieldOfView = 15;  ///< Degrees; 0 means a parallel projection.
   /// The height of the box in percent of its width (hPercent). It is absent if the box fills its space.
   std::optional<double> heightPercent;

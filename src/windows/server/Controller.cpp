@@ -159,12 +159,9 @@ HRESULT Controller::GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept {
 HRESULT Controller::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept {
   if (names == nullptr || ids == nullptr) return E_POINTER;
   return Guarded([&] {
-    ITypeInfo* info = nullptr;
-    const HRESULT found = FindTypeInfo(IID_IPlotsmithController, &info);
-    if (FAILED(found)) return found;
-    const HRESULT named = info->GetIDsOfNames(names, count, ids);
-    info->Release();
-    return named;
+    com::ComPtr<ITypeInfo> info;
+    const HRESULT found = FindTypeInfo(IID_IPlotsmithController, info.Put());
+    return FAILED(found) ? found : info->GetIDsOfNames(names, count, ids);
   });
 }
 

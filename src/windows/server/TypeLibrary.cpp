@@ -1,5 +1,6 @@
 #include "windows/server/TypeLibrary.h"
 
+#include "windows/com/ComPtr.h"
 #include "windows/com/Windows.h"
 #include "windows/server/Module.h"
 
@@ -9,12 +10,9 @@ HRESULT FindTypeInfo(REFGUID id, ITypeInfo** info) {
   if (info == nullptr) return E_POINTER;
   *info = nullptr;
   // OLE Automation caches the library that was loaded last, so this is cheap.
-  ITypeLib* library = nullptr;
-  const HRESULT loaded = LoadTypeLibEx(ModulePath().c_str(), REGKIND_NONE, &library);
-  if (FAILED(loaded)) return loaded;
-  const HRESULT found = library->GetTypeInfoOfGuid(id, info);
-  library->Release();
-  return found;
+  com::ComPtr<ITypeLib> library;
+  const HRESULT loaded = LoadTypeLibEx(ModulePath().c_str(), REGKIND_NONE, library.Put());
+  return FAILED(loaded) ? loaded : library->GetTypeInfoOfGuid(id, info);
 }
 
 }  // namespace plotsmith::windows

@@ -77,8 +77,8 @@ class FormWindow {
   std::optional<DisabledWindows> disabledWindows_;
   forms::Size least_;         ///< the minimum size of the layout, with its margins
   HWND lastFocus_ = nullptr;  ///< the last window with the focus, stored while another window is active
-  bool isArranging_ = false;  ///< true while Arrange works, because scroll bars that appear or disappear
-                              ///< change the client area
+  /// True while Arrange works, because scroll bars that appear or disappear change the client area.
+  bool isArranging_ = false;
 };
 
 }  // namespace plotsmith::windows

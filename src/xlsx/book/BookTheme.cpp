@@ -27,7 +27,7 @@ const Theme& BookTheme::Get() {
 void BookTheme::EnsurePart() {
   if (HasPart()) return;
   const std::string part = package_.FreeName(book_.Folder() + "theme/theme", ".xml");
-  package_.Add(part, content_type::kTheme, DefaultTheme(book_.IsStrict()));
+  package_.Add(part, content_type::kTheme, DefaultTheme(book_.Vocabulary()));
   package_.AddRelationship(book_.Name(), book_.Vocabulary().RelationshipType("theme"), part);
 }
 

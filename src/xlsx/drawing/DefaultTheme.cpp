@@ -4,8 +4,6 @@
 #include <string_view>
 #include <utility>
 
-#include "xlsx/package/Namespaces.h"
-
 namespace plotsmith::xlsx {
 namespace {
 
@@ -38,7 +36,7 @@ std::string Thrice(std::string_view name, const std::string& content) {
 
 }  // namespace
 
-std::string DefaultTheme(bool strict) {
+std::string DefaultTheme(const Namespaces& vocabulary) {
   std::string colors = R"(<a:dk1><a:sysClr val="windowText" lastClr="000000"/></a:dk1>)"
                        R"(<a:lt1><a:sysClr val="window" lastClr="FFFFFF"/></a:lt1>)";
   for (const auto& [name, rgb] : kColors) {
@@ -47,13 +45,12 @@ std::string DefaultTheme(bool strict) {
   const std::string fill = R"(<a:solidFill><a:schemeClr val="phClr"/></a:solidFill>)";
   const std::string line = "<a:ln w=\"9525\">" + fill + "<a:prstDash val=\"solid\"/></a:ln>";
   const std::string effect = Element("effectStyle", "<a:effectLst/>");
-  return std::string(kXmlDeclaration) + "<a:theme xmlns:a=\"" +
-         std::string((strict ? kStrict : kTransitional).drawing) + "\" name=\"Office\"><a:themeElements>" +
-         "<a:clrScheme name=\"Office\">" + colors + "</a:clrScheme><a:fontScheme name=\"Office\">" +
-         Font("majorFont", "Cambria") + Font("minorFont", "Calibri") +
-         "</a:fontScheme><a:fmtScheme name=\"Office\">" + Thrice("fillStyleLst", fill) +
-         Thrice("lnStyleLst", line) + Thrice("effectStyleLst", effect) + Thrice("bgFillStyleLst", fill) +
-         "</a:fmtScheme></a:themeElements></a:theme>";
+  return std::string(kXmlDeclaration) + "<a:theme xmlns:a=\"" + std::string(vocabulary.drawing) +
+         "\" name=\"Office\"><a:themeElements>" + "<a:clrScheme name=\"Office\">" + colors +
+         "</a:clrScheme><a:fontScheme name=\"Office\">" + Font("majorFont", "Cambria") +
+         Font("minorFont", "Calibri") + "</a:fontScheme><a:fmtScheme name=\"Office\">" +
+         Thrice("fillStyleLst", fill) + Thrice("lnStyleLst", line) + Thrice("effectStyleLst", effect) +
+         Thrice("bgFillStyleLst", fill) + "</a:fmtScheme></a:themeElements></a:theme>";
 }
 
 }  // namespace plotsmith::xlsx

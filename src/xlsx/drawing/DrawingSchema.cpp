@@ -105,47 +105,51 @@ constexpr std::string_view kBodyProperties[] = {"prstTxWarp", "noAutofit|normAut
 constexpr std::string_view kLocks[] = {"spLocks|grpSpLocks|picLocks|cxnSpLocks|graphicFrameLocks", "stCxn",
                                        "endCxn", "extLst"};
 
+/// A namespace of elements: that of charts, or that of DrawingML.
+enum class Namespace { kChartMl, kDrawingMl };
+using enum Namespace;
+
 struct Type {
   std::string_view elements;  ///< joined by "|"
   Order order;
-  bool drawingMl;  ///< true if the children are elements of DrawingML, false for the chart vocabulary
+  Namespace ofChildren;
 };
 
 constexpr Type kTypes[] = {
-    {"chartSpace", kChartSpace, false},
-    {"chart", kChart, false},
-    {"plotArea", kPlotArea, false},
-    {kGroups, kGroup, false},
-    {"ser", kSeries, false},
-    {kAxes, kAxis, false},
-    {"scaling", kScaling, false},
-    {"title", kTitle, false},
-    {"tx", kTx, false},
-    {"legend", kLegend, false},
-    {"legendEntry", kLegendEntry, false},
-    {"marker", kMarker, false},
-    {"dispUnits", kDisplayUnitOrder, false},
-    {"layout", kLayout, false},
-    {"manualLayout", kManualLayout, false},
-    {"dLbls|dLbl", kLabels, false},
-    {"view3D", kView3D, false},
-    {"floor|sideWall|backWall", kSurface, false},
-    {"numRef|strRef|multiLvlStrRef", kReference, false},
-    {"numCache|strCache", kCache, false},
-    {"cat|val|xVal|yVal|bubbleSize", kDataSource, false},
-    {"spPr|grpSpPr", kShape, true},
-    {"xfrm", kTransform, true},
-    {"prstGeom", {}, true},
-    {"cNvSpPr|cNvGrpSpPr|cNvPicPr|cNvCxnSpPr|cNvGraphicFramePr", kLocks, true},
-    {"bodyPr", kBodyProperties, true},
-    {"ln", kLine, true},
-    {"txPr|rich|txBody", kText, true},
-    {"p", kParagraph, true},
-    {"pPr", kParagraphProperties, true},
-    {"r|fld", kRun, true},
-    {"rPr|defRPr|endParaRPr", kRunProperties, true},
-    {"pattFill", kPattern, true},
-    {"solidFill|fgClr|bgClr", {}, true},
+    {"chartSpace", kChartSpace, kChartMl},
+    {"chart", kChart, kChartMl},
+    {"plotArea", kPlotArea, kChartMl},
+    {kGroups, kGroup, kChartMl},
+    {"ser", kSeries, kChartMl},
+    {kAxes, kAxis, kChartMl},
+    {"scaling", kScaling, kChartMl},
+    {"title", kTitle, kChartMl},
+    {"tx", kTx, kChartMl},
+    {"legend", kLegend, kChartMl},
+    {"legendEntry", kLegendEntry, kChartMl},
+    {"marker", kMarker, kChartMl},
+    {"dispUnits", kDisplayUnitOrder, kChartMl},
+    {"layout", kLayout, kChartMl},
+    {"manualLayout", kManualLayout, kChartMl},
+    {"dLbls|dLbl", kLabels, kChartMl},
+    {"view3D", kView3D, kChartMl},
+    {"floor|sideWall|backWall", kSurface, kChartMl},
+    {"numRef|strRef|multiLvlStrRef", kReference, kChartMl},
+    {"numCache|strCache", kCache, kChartMl},
+    {"cat|val|xVal|yVal|bubbleSize", kDataSource, kChartMl},
+    {"spPr|grpSpPr", kShape, kDrawingMl},
+    {"xfrm", kTransform, kDrawingMl},
+    {"prstGeom", {}, kDrawingMl},
+    {"cNvSpPr|cNvGrpSpPr|cNvPicPr|cNvCxnSpPr|cNvGraphicFramePr", kLocks, kDrawingMl},
+    {"bodyPr", kBodyProperties, kDrawingMl},
+    {"ln", kLine, kDrawingMl},
+    {"txPr|rich|txBody", kText, kDrawingMl},
+    {"p", kParagraph, kDrawingMl},
+    {"pPr", kParagraphProperties, kDrawingMl},
+    {"r|fld", kRun, kDrawingMl},
+    {"rPr|defRPr|endParaRPr", kRunProperties, kDrawingMl},
+    {"pattFill", kPattern, kDrawingMl},
+    {"solidFill|fgClr|bgClr", {}, kDrawingMl},
 };
 
 bool HasName(std::string_view alternatives, std::string_view name) {
@@ -195,7 +199,8 @@ std::string QualifiedName(pugi::xml_node parent, std::string_view local) {
   pugi::xml_node root = parent;
   while (root.parent().type() == pugi::node_element) root = root.parent();
   const Type* type = TypeOf(parent);
-  if (type == nullptr || !type->drawingMl) return std::string(xml::Prefix(root.name())) + std::string(local);
+  if (type == nullptr || type->ofChildren == kChartMl)
+    return std::string(xml::Prefix(root.name())) + std::string(local);
   const bool strict = xml::NamespaceOf(root).starts_with("http://purl.oclc.org/ooxml/");
   return xml::EnsurePrefix(root, (strict ? kStrict : kTransitional).drawing, "a") + std::string(local);
 }

@@ -30,25 +30,27 @@ pugi::xml_node PropertiesOf(const DrawnShape& shape, Part part) {
   return schema::Ensure(properties, "ln");
 }
 
-/// One of the two colours of a fill or an outline. Only a pattern has the second colour.
+/// The colours of a fill or an outline. Only a pattern has the second one.
+enum class Ink { kFore, kBack };
+
 class ColorFormatObject final : public excel::ColorFormat {
  public:
-  ColorFormatObject(std::shared_ptr<DrawnShape> shape, Part part, bool back)
-      : shape_(std::move(shape)), part_(part), back_(back) {}
+  ColorFormatObject(std::shared_ptr<DrawnShape> shape, Part part, Ink ink)
+      : shape_(std::move(shape)), part_(part), ink_(ink) {}
 
   void SetRGB(std::int32_t color) override {
     shape_->Log().Put(
         [this] {
           return shape_->JournalPath() + (part_ == Part::kFill ? ".Fill." : ".Line.") +
-                 (back_ ? "BackColor" : "ForeColor");
+                 (ink_ == Ink::kBack ? "BackColor" : "ForeColor");
         },
         "RGB", color);
     if (!IsColor(color)) throw OutOfRange();
     const pugi::xml_node properties = PropertiesOf(*shape_, part_);
     const pugi::xml_node fill = FindFill(properties);
     if (xml::Is(fill, "pattFill")) {
-      SetFillColor(schema::Ensure(fill, back_ ? "bgClr" : "fgClr"), color);
-    } else if (!back_) {
+      SetFillColor(schema::Ensure(fill, ink_ == Ink::kBack ? "bgClr" : "fgClr"), color);
+    } else if (ink_ == Ink::kFore) {
       SetFillColor(SetFill(properties, "solidFill"), color);
     }
     shape_->MarkChanged();
@@ -57,17 +59,17 @@ class ColorFormatObject final : public excel::ColorFormat {
  private:
   std::shared_ptr<DrawnShape> shape_;
   Part part_;
-  bool back_;
+  Ink ink_;
 };
 
 class FillFormatObject final : public excel::FillFormat {
  public:
   explicit FillFormatObject(std::shared_ptr<DrawnShape> shape) : shape_(std::move(shape)) {}
   Ref<excel::ColorFormat> ForeColor() override {
-    return std::make_shared<ColorFormatObject>(shape_, Part::kFill, false);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kFill, Ink::kFore);
   }
   Ref<excel::ColorFormat> BackColor() override {
-    return std::make_shared<ColorFormatObject>(shape_, Part::kFill, true);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kFill, Ink::kBack);
   }
 
  private:
@@ -98,10 +100,10 @@ class LineFormatObject final : public excel::LineFormat {
     shape_->MarkChanged();
   }
   Ref<excel::ColorFormat> ForeColor() override {
-    return std::make_shared<ColorFormatObject>(shape_, Part::kLine, false);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kLine, Ink::kFore);
   }
   Ref<excel::ColorFormat> BackColor() override {
-    return std::make_shared<ColorFormatObject>(shape_, Part::kLine, true);
+    return std::make_shared<ColorFormatObject>(shape_, Part::kLine, Ink::kBack);
   }
 
  private:

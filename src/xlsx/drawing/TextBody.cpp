@@ -27,6 +27,12 @@ void Cut(pugi::xml_node run, std::size_t units) {
   xml::SetText(xml::Child(rest, "t"), runtime::ToUtf8(text.substr(units)));
 }
 
+/// Returns the position after a piece of text, which may extend to the end of any text.
+std::size_t EndOf(std::size_t start, std::size_t length) {
+  constexpr std::size_t kEnd = std::u16string::npos;
+  return length > kEnd - start ? kEnd : start + length;
+}
+
 /// Calls `visit` with each run and the positions of its beginning and end. `visit` may split the run. Returns
 /// the length of the text.
 template <class Visit>
@@ -120,7 +126,7 @@ std::vector<pugi::xml_node> TextBody::Paragraphs() const { return xml::Children(
 std::vector<pugi::xml_node> TextBody::EnsureRunProperties(std::size_t start, std::size_t length) {
   EnsureBody();
   const auto paragraphs = Paragraphs();
-  const std::size_t end = length > std::u16string::npos - start ? std::u16string::npos : start + length;
+  const std::size_t end = EndOf(start, length);
   std::vector<pugi::xml_node> properties;
   const std::size_t size = ForEachRun(paragraphs, [&](pugi::xml_node run, std::size_t from, std::size_t to) {
     if (to <= start || from >= end) return;
@@ -140,7 +146,7 @@ std::vector<pugi::xml_node> TextBody::EnsureRunProperties(std::size_t start, std
 
 std::vector<pugi::xml_node> TextBody::RunProperties(std::size_t start, std::size_t length) const {
   const auto paragraphs = Paragraphs();
-  const std::size_t end = length > std::u16string::npos - start ? std::u16string::npos : start + length;
+  const std::size_t end = EndOf(start, length);
   std::vector<pugi::xml_node> properties;
   const std::size_t size = ForEachRun(paragraphs, [&](pugi::xml_node run, std::size_t from, std::size_t to) {
     if (to > start && from < end) properties.push_back(xml::Child(run, "rPr"));

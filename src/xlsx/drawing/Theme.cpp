@@ -150,7 +150,7 @@ std::optional<std::int32_t> Preset(std::string_view name) {
 }  // namespace
 
 Theme::Theme(std::string_view part) {
-  Read(DefaultTheme(false));
+  Read(DefaultTheme(kTransitional));
   if (!part.empty()) Read(part);
 }
 

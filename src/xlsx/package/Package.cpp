@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <set>
 #include <utility>
@@ -17,6 +16,7 @@
 #include "xlsx/package/MemoryStream.h"
 #include "xlsx/package/Namespaces.h"
 #include "xlsx/package/PackageError.h"
+#include "xlsx/package/PartNames.h"
 #include "xlsx/package/WorkbookKind.h"
 #include "xlsx/package/Xml.h"
 
@@ -24,75 +24,30 @@ namespace plotsmith::xlsx {
 namespace {
 
 constexpr std::string_view kContentTypes = "/[Content_Types].xml";
-constexpr std::string_view kContentTypesAddress =
+constexpr std::string_view kContentTypesNamespace =
     "http://schemas.openxmlformats.org/package/2006/content-types";
-constexpr std::string_view kRelationshipsAddress =
+constexpr std::string_view kRelationshipsNamespace =
     "http://schemas.openxmlformats.org/package/2006/relationships";
 constexpr std::string_view kRelationshipsType = "application/vnd.openxmlformats-package.relationships+xml";
 
-std::string Folded(std::string_view name) {
-  std::string key(name);
-  for (char& c : key) c = ascii::Lower(c);
-  return key;
-}
-
-std::string_view Folder(std::string_view part) { return part.substr(0, part.rfind('/') + 1); }
-
-/// Returns the path of a part's relationships: those of "/xl/workbook.xml" are in
-/// "/xl/_rels/workbook.xml.rels".
-std::string RelationshipsPart(std::string_view part) {
-  if (part.empty()) return "/_rels/.rels";
-  const std::string_view folder = Folder(part);
-  return std::string(folder) + "_rels/" + std::string(part.substr(folder.size())) + ".rels";
-}
-
-std::string PercentDecoded(std::string_view target) {
-  const auto digit = [](char c) -> int {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-  };
-  std::string text;
-  for (std::size_t i = 0; i < target.size(); ++i) {
-    if (target[i] == '%' && i + 2 < target.size() && digit(target[i + 1]) >= 0 && digit(target[i + 2]) >= 0) {
-      text += static_cast<char>(digit(target[i + 1]) * 16 + digit(target[i + 2]));
-      i += 2;
-    } else {
-      text += target[i];
-    }
-  }
-  return text;
-}
-
 /// Returns true for the content types and the relationships. They are stored like parts, but no relationship
 /// may refer to them.
-bool IsBookkeeping(std::string_view part) { return part == kContentTypes || Folded(part).ends_with(".rels"); }
+bool IsBookkeeping(std::string_view part) {
+  return part == kContentTypes || ascii::Lower(part).ends_with(".rels");
+}
 
 /// Returns the name of the part that an override refers to, in the form used for comparisons.
 std::string PartNameOf(pugi::xml_node type) {
-  return Folded(PercentDecoded(xml::Attribute(type, "PartName")));
+  return ascii::Lower(PercentDecoded(xml::Attribute(type, "PartName")));
 }
 
-std::string_view LastSegment(std::string_view address) { return address.substr(address.rfind('/') + 1); }
-
-/// Returns a name as the file stores it: characters that an address can't contain are percent-encoded
-/// (ECMA-376-2).
-std::string PercentEncoded(std::string_view name) {
-  constexpr std::string_view kPlain =
-      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~!$&'()*+,;=:@/";
-  std::string text;
-  for (const char c : name) {
-    if (kPlain.find(c) != std::string_view::npos) {
-      text += c;
-    } else {
-      constexpr std::string_view kDigits = "0123456789ABCDEF";
-      const auto byte = static_cast<unsigned char>(c);
-      text.append({'%', kDigits[byte >> 4], kDigits[byte & 15]});
-    }
-  }
-  return text;
+/// Returns the name of the entry for a new part. The content types aren't a part, so their name isn't
+/// encoded.
+std::string NewEntryName(const std::string& part) {
+  return part == kContentTypes ? part.substr(1) : PercentEncoded(part.substr(1));
 }
+
+std::string_view LastSegment(std::string_view uri) { return uri.substr(uri.rfind('/') + 1); }
 
 /// A file that is deleted when it is closed.
 class ScratchFile {
@@ -132,7 +87,7 @@ struct Package::Part {
 };
 
 Package::Package() {
-  ParseContentTypes(std::string(kXmlDeclaration) + R"(<Types xmlns=")" + std::string(kContentTypesAddress) +
+  ParseContentTypes(std::string(kXmlDeclaration) + R"(<Types xmlns=")" + std::string(kContentTypesNamespace) +
                     R"("><Default Extension="rels" ContentType=")" + std::string(kRelationshipsType) +
                     R"("/><Default Extension="xml" ContentType="application/xml"/></Types>)");
   Put(kContentTypes, "");
@@ -154,7 +109,7 @@ Package Package::Open(const std::string& path) {
     part->name = (entries[i].name.starts_with('/') ? "" : "/") + PercentDecoded(entries[i].name);
     part->entry = i;
     if (entries[i].encrypted) throw PartError(part->name, "it is encrypted");
-    if (!package.byName_.emplace(Folded(part->name), part.get()).second) {
+    if (!package.byName_.emplace(ascii::Lower(part->name), part.get()).second) {
       throw PackageError("it contains two parts with the name " + part->name);
     }
     package.parts_.push_back(std::move(part));
@@ -182,12 +137,12 @@ void Package::ParseContentTypes(std::string_view bytes) {
   for (const pugi::xml_node& type : xml::Root(*contentTypes_).children()) {
     // The first override of a part counts.
     if (xml::Is(type, "Override")) overrides_.emplace(PartNameOf(type), type);
-    if (xml::Is(type, "Default")) defaults_.emplace(Folded(xml::Attribute(type, "Extension")), type);
+    if (xml::Is(type, "Default")) defaults_.emplace(ascii::Lower(xml::Attribute(type, "Extension")), type);
   }
 }
 
 Package::Part* Package::Find(std::string_view part) const {
-  const auto found = byName_.find(Folded(part));
+  const auto found = byName_.find(ascii::Lower(part));
   return found == byName_.end() ? nullptr : found->second;
 }
 
@@ -199,12 +154,12 @@ const Package::Part& Package::Get(std::string_view part) const {
 
 Package::Part& Package::Put(std::string_view name, std::string bytes) {
   changed_ = true;
-  relationships_.erase(Folded(name));
+  relationships_.erase(ascii::Lower(name));
   Part* part = Find(name);
   if (part == nullptr) {
     part = parts_.emplace_back(std::make_unique<Part>()).get();
     part->name = name;
-    byName_.emplace(Folded(name), part);
+    byName_.emplace(ascii::Lower(name), part);
   }
   part->bytes = std::move(bytes);
   return *part;
@@ -219,7 +174,7 @@ std::vector<std::string> Package::Parts() const {
 }
 
 std::string Package::ContentType(std::string_view part) const {
-  const std::string key = Folded(part);
+  const std::string key = ascii::Lower(part);
   auto type = overrides_.find(key);
   if (type == overrides_.end()) {
     type = defaults_.find(key.substr(key.rfind('.') + 1));
@@ -288,7 +243,7 @@ void Package::Add(std::string_view part, std::string_view contentType, std::stri
 
 void Package::SetContentType(std::string_view part, std::string_view contentType) {
   if (ContentType(part) == contentType) return;
-  pugi::xml_node& type = overrides_[Folded(part)];  // An element of a deleted part may still exist.
+  pugi::xml_node& type = overrides_[ascii::Lower(part)];  // An element of a deleted part may still exist.
   if (!type) type = xml::AppendChild(xml::Root(*contentTypes_), "Override");
   xml::SetAttribute(type, "PartName", PercentEncoded(part));
   xml::SetAttribute(type, "ContentType", contentType);
@@ -296,7 +251,7 @@ void Package::SetContentType(std::string_view part, std::string_view contentType
 }
 
 void Package::Remove(const std::string& part) {
-  const std::string key = Folded(part);
+  const std::string key = ascii::Lower(part);
   if (overrides_.erase(key) > 0) {
     pugi::xml_node types = xml::Root(*contentTypes_);
     for (pugi::xml_node type : xml::Children(types, "Override")) {
@@ -323,7 +278,7 @@ std::string Package::FreeName(std::string_view prefix, std::string_view suffix) 
 
 const std::vector<Relationship>& Package::Relationships(std::string_view part) const {
   const std::string rels = RelationshipsPart(part);
-  const std::string key = Folded(rels);
+  const std::string key = ascii::Lower(rels);
   if (const auto known = relationships_.find(key); known != relationships_.end()) return known->second;
   std::vector<Relationship> list;
   pugi::xml_document document;
@@ -357,7 +312,7 @@ std::optional<Relationship> Package::FindRelationshipOfType(std::string_view par
   return std::nullopt;
 }
 
-std::string Package::AddRelationship(std::string_view part, std::string_view typeAddress,
+std::string Package::AddRelationship(std::string_view part, std::string_view typeUri,
                                      std::string_view target) {
   const std::string rels = RelationshipsPart(part);
   pugi::xml_document document;
@@ -365,18 +320,18 @@ std::string Package::AddRelationship(std::string_view part, std::string_view typ
     xml::Parse(document, Read(rels));
   } else {
     xml::Parse(document, std::string(kXmlDeclaration) + R"(<Relationships xmlns=")" +
-                             std::string(kRelationshipsAddress) + R"("/>)");
+                             std::string(kRelationshipsNamespace) + R"("/>)");
   }
   pugi::xml_node root = xml::Root(document);
   std::set<std::string> taken;
   for (const pugi::xml_node& node : xml::Children(root, "Relationship")) {
-    taken.insert(Folded(xml::Attribute(node, "Id")));
+    taken.insert(ascii::Lower(xml::Attribute(node, "Id")));
   }
   std::string id = "rId1";
-  for (int n = 2; taken.contains(Folded(id)); ++n) id = "rId" + std::to_string(n);
+  for (int n = 2; taken.contains(ascii::Lower(id)); ++n) id = "rId" + std::to_string(n);
   pugi::xml_node node = xml::AppendChild(root, "Relationship");
   xml::SetAttribute(node, "Id", id);
-  xml::SetAttribute(node, "Type", typeAddress);
+  xml::SetAttribute(node, "Type", typeUri);
   xml::SetAttribute(node, "Target", RelativeTarget(part, target));
   Add(rels, kRelationshipsType, xml::Serialize(document));
   return id;
@@ -484,51 +439,16 @@ void Package::Write(int descriptor) {
   if (contentTypesChanged_) Replace(kContentTypes, xml::Serialize(*contentTypes_));
   ArchiveWriter writer(descriptor);
   for (const auto& part : parts_) {
-    if (part->bytes) {
-      const bool stored = part->entry && archive_->Entries()[*part->entry].method == 0;
-      writer.Add(part->entry                   ? archive_->Entries()[*part->entry].name
-                 : part->name == kContentTypes ? part->name.substr(1)  // It isn't a part, so it keeps its
-                                                                       // own name.
-                                               : PercentEncoded(part->name.substr(1)),
-                 *part->bytes, !stored);
-    } else {
+    if (!part->bytes) {
       writer.Copy(*archive_, *part->entry);
+      continue;
     }
+    const ArchiveEntry* const old = part->entry ? &archive_->Entries()[*part->entry] : nullptr;
+    const bool compress = old == nullptr || old->method != 0;
+    writer.Add(old == nullptr ? NewEntryName(part->name) : old->name, *part->bytes, compress);
   }
   if (archive_) writer.CopyComment(*archive_);
   writer.Finish();
-}
-
-std::string ResolveTarget(std::string_view source, std::string_view target) {
-  target = target.substr(0, target.find('#'));
-  std::string path = PercentDecoded(target);
-  std::replace(path.begin(), path.end(), '\\', '/');
-  if (!path.starts_with('/')) path.insert(0, source.empty() ? "/" : Folder(source));
-  std::vector<std::string_view> segments;
-  for (std::string_view rest = path; !rest.empty();) {
-    rest.remove_prefix(1);  // the slash
-    const std::string_view segment = rest.substr(0, rest.find('/'));
-    rest.remove_prefix(segment.size());
-    if (segment == "..") {
-      if (segments.empty()) return {};
-      segments.pop_back();
-    } else if (segment != "." && !segment.empty()) {
-      segments.push_back(segment);
-    }
-  }
-  std::string resolved;
-  for (const std::string_view segment : segments) resolved.append("/").append(segment);
-  return resolved;
-}
-
-std::string RelativeTarget(std::string_view source, std::string_view target) {
-  std::string_view folder = source.empty() ? std::string_view("/") : Folder(source);
-  std::string up;
-  while (!target.starts_with(folder)) {
-    folder = Folder(folder.substr(0, folder.size() - 1));
-    up += "../";
-  }
-  return up + PercentEncoded(target.substr(folder.size()));
 }
 
 }  // namespace plotsmith::xlsx

@@ -26,9 +26,8 @@ struct Relationship {
 };
 
 /// A workbook file as a package of parts (ECMA-376-2). A part is read when it is needed. An unchanged part is
-/// written back as the same compressed bytes, in the same order. Part names begin with a slash, are decoded
-/// (a space, not "%20") and are compared without regard to ASCII case. All failures are PackageErrors whose
-/// text is a sentence.
+/// written back as the same compressed bytes, in the same order. Names of parts (see PartNames.h) are
+/// compared without regard to ASCII case. All failures are PackageErrors whose text is a sentence.
 class Package {
  public:
   /// Makes an empty package. The caller adds the parts that every workbook needs.
@@ -69,14 +68,14 @@ class Package {
   std::optional<Relationship> FindRelationship(std::string_view part, std::string_view id) const;
   /// Returns a part's first relationship of a type, such as "styles", that isn't external.
   std::optional<Relationship> FindRelationshipOfType(std::string_view part, std::string_view type) const;
-  /// Adds a relationship and returns its id. `typeAddress` is the complete URI of the type.
-  std::string AddRelationship(std::string_view part, std::string_view typeAddress, std::string_view target);
+  /// Adds a relationship and returns its id. `typeUri` is the complete URI of the type.
+  std::string AddRelationship(std::string_view part, std::string_view typeUri, std::string_view target);
   /// Removes a part's relationship with the id, and the parts that no other part refers to after that.
   /// Returns the names of the removed parts. No part is removed if the relationships of some part can't be
   /// read.
   std::vector<std::string> RemoveRelationship(std::string_view part, std::string_view id);
 
-  /// Returns true if the package was changed since it was opened or saved.
+  /// Returns true if the package was changed since it was opened.
   bool Changed() const { return changed_; }
   /// Writes the package to a new file, which then replaces `path` in one step. At any moment, `path` is a
   /// complete file. The file keeps its permissions; if `path` is a link, its target is replaced.
@@ -109,16 +108,13 @@ class Package {
   /// drawing looks its own up.
   mutable std::map<std::string, std::vector<Relationship>, std::less<>> relationships_;
   std::unique_ptr<pugi::xml_document> contentTypes_;
-  std::map<std::string, pugi::xml_node, std::less<>>
-      overrides_;  ///< `Override` elements of contentTypes_, by part in lower case.
-  std::map<std::string, pugi::xml_node, std::less<>> defaults_;  ///< `Default` elements, by extension.
+  /// The elements of contentTypes_: `Override` by part in lower case, and `Default` by extension.
+  ///@{
+  std::map<std::string, pugi::xml_node, std::less<>> overrides_;
+  std::map<std::string, pugi::xml_node, std::less<>> defaults_;
+  ///@}
   bool contentTypesChanged_ = false;
   bool changed_ = false;
 };
-
-/// Returns the part that a target in `source` refers to; empty if the target is outside of the package.
-std::string ResolveTarget(std::string_view source, std::string_view target);
-/// Returns the target in the form for `source`: relative to its folder, and encoded.
-std::string RelativeTarget(std::string_view source, std::string_view target);
 
 }  // namespace plotsmith::xlsx

@@ -60,8 +60,7 @@ constexpr std::size_t kStart = 4 * 1024;
 }
 
 const char* FormatOfText(const std::string& start) {
-  std::string folded = start;
-  for (char& c : folded) c = ascii::Lower(c);
+  const std::string folded = ascii::Lower(start);
   for (const TextKind& kind : kTextKinds) {
     if (folded.find(kind.mark) != std::string::npos) return kind.format;
   }
@@ -85,9 +84,7 @@ void CheckCanBeOpened(const std::string& path) {
 }  // namespace
 
 std::string ExtensionOf(std::string_view path) {
-  std::string extension = runtime::Utf8Of(runtime::PathOf(path).extension());
-  for (char& c : extension) c = ascii::Lower(c);
-  return extension;
+  return ascii::Lower(runtime::Utf8Of(runtime::PathOf(path).extension()));
 }
 
 const WorkbookKind* KindOfName(std::string_view path) {

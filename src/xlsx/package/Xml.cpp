@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -21,7 +22,11 @@ constexpr unsigned kParse = (pugi::parse_full | pugi::parse_ws_pcdata) &
                             ~(pugi::parse_escapes | pugi::parse_eol | pugi::parse_wconv_attribute);
 constexpr unsigned kSave = pugi::format_raw | pugi::format_no_escapes | pugi::format_no_declaration;
 
-std::string Encode(std::string_view text, bool attribute) {
+/// The place of a text. In an attribute, quotes and white space need entities.
+enum class TextPlace { kElement, kAttribute };
+
+std::string Encode(std::string_view text, TextPlace place) {
+  const bool attribute = place == TextPlace::kAttribute;
   std::string raw;
   raw.reserve(text.size());
   for (char c : text) {
@@ -67,8 +72,6 @@ void QuoteSafe(pugi::xml_node element) {
   }
 }
 
-constexpr std::string_view kMark = "\xEF\xBB\xBF";  // the byte order mark
-
 enum class Encoding { kUtf8, kMarkedUtf8, kUtf16Big, kUtf16Little, kLatin1, kWindows1252 };
 
 /// Returns the encoding that the XML declaration names, as a view of the text; a null view if it names none.
@@ -88,7 +91,7 @@ Encoding EncodingOf(std::string_view bytes) {
   const auto begins = [&](char first, char second) {
     return bytes.size() >= 2 && bytes[0] == first && bytes[1] == second;
   };
-  if (bytes.starts_with(kMark)) return Encoding::kMarkedUtf8;
+  if (bytes.starts_with(kByteOrderMark)) return Encoding::kMarkedUtf8;
   if (begins('\xFE', '\xFF') || begins('\0', '<')) return Encoding::kUtf16Big;
   if (begins('\xFF', '\xFE') || begins('<', '\0')) return Encoding::kUtf16Little;
   const std::string_view declared = DeclaredEncoding(bytes);
@@ -101,8 +104,8 @@ Encoding EncodingOf(std::string_view bytes) {
   return Encoding::kUtf8;
 }
 
-/// Converts UTF-16. `high` and `low` are the offsets of the two bytes in each unit.
-std::string FromUtf16(std::string_view bytes, std::size_t high, std::size_t low) {
+std::string FromUtf16(std::string_view bytes, std::endian order) {
+  const std::size_t high = order == std::endian::big ? 0 : 1, low = 1 - high;
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
   std::u16string units;
   units.reserve(bytes.size() / 2);
@@ -113,7 +116,8 @@ std::string FromUtf16(std::string_view bytes, std::size_t high, std::size_t low)
   return runtime::ToUtf8(units);
 }
 
-std::string FromSingleBytes(std::string_view bytes, bool windows) {
+/// Converts Latin-1 or Windows-1252.
+std::string FromSingleBytes(std::string_view bytes, Encoding encoding) {
   // Windows-1252 from 0x80 on, where Latin-1 has control characters
   static constexpr char16_t kWindows[] =
       u"\x20AC\x81\x201A\x0192\x201E\x2026\x2020\x2021\x02C6\x2030\x0160\x2039\x0152\x8D\x017D\x8F"
@@ -122,7 +126,9 @@ std::string FromSingleBytes(std::string_view bytes, bool windows) {
   text.reserve(bytes.size());
   for (const char c : bytes) {
     const auto byte = static_cast<unsigned char>(c);
-    runtime::AppendUtf8(text, windows && byte >= 0x80 && byte < 0xA0 ? kWindows[byte - 0x80] : byte);
+    runtime::AppendUtf8(text, encoding == Encoding::kWindows1252 && byte >= 0x80 && byte < 0xA0
+                                  ? kWindows[byte - 0x80]
+                                  : byte);
   }
   return text;
 }
@@ -162,6 +168,30 @@ struct PartWalker : pugi::xml_tree_walker {
   }
 };
 
+/// Returns the name of the entity at a position, such as "amp" or "#38"; empty if there is none.
+std::string_view EntityAt(std::string_view raw, std::size_t at) {
+  constexpr std::size_t kLongest = 12;  // from the "&" to the ";"
+  if (raw[at] != '&') return {};
+  const auto end = raw.substr(at, kLongest + 1).find(';');
+  return end == std::string_view::npos ? std::string_view() : raw.substr(at + 1, end - 1);
+}
+
+/// Returns the character of an entity, or nothing for an unknown entity.
+std::optional<char32_t> CharacterOf(std::string_view entity) {
+  static constexpr std::array<std::pair<std::string_view, char>, 5> kEntities = {
+      {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}}};
+  for (const auto& [name, character] : kEntities) {
+    if (name == entity) return static_cast<char32_t>(character);
+  }
+  if (entity.size() < 2 || entity[0] != '#') return std::nullopt;
+  const bool hexadecimal = entity[1] == 'x' || entity[1] == 'X';
+  const std::string_view digits = entity.substr(hexadecimal ? 2 : 1);
+  std::uint32_t code = 0;
+  const auto [stop, status] = std::from_chars(digits.begin(), digits.end(), code, hexadecimal ? 16 : 10);
+  if (status != std::errc() || stop != digits.end() || !dom::IsXmlCharacter(code)) return std::nullopt;
+  return code;
+}
+
 /// Returns the number without surrounding white space and without a plus sign.
 std::string_view NumberIn(std::string_view text) {
   while (!text.empty() && ascii::IsSpace(text.front())) text.remove_prefix(1);
@@ -180,17 +210,17 @@ std::string ToUtf8(std::string bytes) {
   std::string text;
   switch (encoding) {
     case Encoding::kUtf16Big:
-      text = FromUtf16(bytes, 0, 1);
+      text = FromUtf16(bytes, std::endian::big);
       break;
     case Encoding::kUtf16Little:
-      text = FromUtf16(bytes, 1, 0);
+      text = FromUtf16(bytes, std::endian::little);
       break;
     case Encoding::kLatin1:
     case Encoding::kWindows1252:
-      text = FromSingleBytes(bytes, encoding == Encoding::kWindows1252);
+      text = FromSingleBytes(bytes, encoding);
       break;
     default:
-      text = bytes.substr(kMark.size());
+      text = bytes.substr(kByteOrderMark.size());
   }
   const std::string_view declared = DeclaredEncoding(text);
   if (declared.data() != nullptr) {
@@ -246,38 +276,19 @@ std::string Decode(std::string_view raw) {
       if (i + 1 < raw.size() && raw[i + 1] == '\n') ++i;
       continue;
     }
-    constexpr std::size_t kLongest = 12;  // from the "&" to the ";"
-    const auto length = raw[i] == '&' ? raw.substr(i, kLongest + 1).find(';') : std::string_view::npos;
-    if (length == std::string_view::npos) {
-      text += raw[i];
-      continue;
-    }
-    const std::string_view name = raw.substr(i + 1, length - 1);
-    static constexpr std::array<std::pair<std::string_view, char>, 5> kEntities = {
-        {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}}};
-    bool known = false;
-    for (const auto& [entity, character] : kEntities) {
-      if (entity == name) text += character, known = true;
-    }
-    if (!known && name.size() > 1 && name[0] == '#') {
-      const bool hexadecimal = name[1] == 'x' || name[1] == 'X';
-      const std::string_view digits = name.substr(hexadecimal ? 2 : 1);
-      std::uint32_t code = 0;
-      const auto [stop, status] = std::from_chars(digits.begin(), digits.end(), code, hexadecimal ? 16 : 10);
-      known = status == std::errc() && stop == digits.end() && dom::IsXmlCharacter(code);
-      if (known) runtime::AppendUtf8(text, code);
-    }
-    if (known) {
-      i += length;
+    const std::string_view entity = EntityAt(raw, i);
+    if (const auto character = entity.empty() ? std::nullopt : CharacterOf(entity)) {
+      runtime::AppendUtf8(text, *character);
+      i += entity.size() + 1;
     } else {
-      text += '&';
+      text += raw[i];
     }
   }
   return text;
 }
 
-std::string EncodeText(std::string_view text) { return Encode(text, false); }
-std::string EncodeAttribute(std::string_view text) { return Encode(text, true); }
+std::string EncodeText(std::string_view text) { return Encode(text, TextPlace::kElement); }
+std::string EncodeAttribute(std::string_view text) { return Encode(text, TextPlace::kAttribute); }
 
 bool Is(pugi::xml_node node, std::string_view local) {
   // A single pass over the name is faster than measuring it and searching for the prefix.

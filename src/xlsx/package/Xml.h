@@ -21,6 +21,9 @@ namespace plotsmith::xlsx::xml {
 inline constexpr const char* kHasDocumentType =
     "it declares a document type, which isn't allowed in a workbook";
 
+/// The byte order mark of UTF-8.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 /// Parses a part in UTF-8, UTF-16, Latin-1 or Windows-1252. Throws PackageError if it isn't well-formed or is
 /// nested too deep.
 void Parse(pugi::xml_document& document, std::string_view bytes);

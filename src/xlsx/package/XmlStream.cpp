@@ -27,9 +27,11 @@ XmlStream::XmlStream(Archive::Stream& source) : source_(source), window_(kWindow
   while (end_ - position_ < kDeclaration && Fill()) {
   }
   const std::string_view start(position_, static_cast<std::size_t>(end_ - position_));
-  constexpr std::string_view kMark = "\xEF\xBB\xBF";
-  if (start.starts_with(kMark)) position_ += kMark.size();
-  if (start.starts_with(kMark) || !xml::NeedsConversion(start)) return;
+  if (start.starts_with(xml::kByteOrderMark)) {
+    position_ += xml::kByteOrderMark.size();
+    return;
+  }
+  if (!xml::NeedsConversion(start)) return;
   std::string bytes(start);
   for (;;) {
     const std::size_t count = source_.Read(window_.data(), kWindow);
@@ -160,18 +162,13 @@ XmlStream::Tag XmlStream::Next(std::string* text) {
   return tag;
 }
 
-void XmlStream::ReadText(std::string& text) {
-  for (int depth = 1; depth > 0;) {
-    const Tag tag = Next(&text);
-    if (tag.kind == Kind::kStart) ++depth;
-    if (tag.kind == Kind::kEnd) --depth;
-    if (tag.kind == Kind::kEndOfInput) Damaged();
-  }
-}
+void XmlStream::ReadText(std::string& text) { PassElement(&text); }
 
-void XmlStream::SkipElement() {
+void XmlStream::SkipElement() { PassElement(nullptr); }
+
+void XmlStream::PassElement(std::string* text) {
   for (int depth = 1; depth > 0;) {
-    const Tag tag = Next();
+    const Tag tag = Next(text);
     if (tag.kind == Kind::kStart) ++depth;
     if (tag.kind == Kind::kEnd) --depth;
     if (tag.kind == Kind::kEndOfInput) Damaged();

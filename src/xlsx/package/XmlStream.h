@@ -64,6 +64,9 @@ class XmlStream {
   /// Skips a comment or a processing instruction, and appends character data to `text`. Returns false at a
   /// tag.
   bool PassOther(std::string* text);
+  /// Reads up to the end tag of the element whose start tag was read last. Its text is appended to `text`
+  /// unless that is null.
+  void PassElement(std::string* text);
   /// Reads a tag, and returns what is between its "<" and ">".
   std::string_view TakeTag();
   std::size_t ReadSource(char* buffer, std::size_t size);

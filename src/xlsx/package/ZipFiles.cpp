@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 #include <memory>
+#include <new>
 #include <vector>
 
 #include "runtime/SystemErrors.h"
@@ -38,6 +39,7 @@ class ZipFile {
 
   virtual zip_int64_t Handle(void* data, zip_uint64_t length, zip_source_cmd_t command) = 0;
 
+  /// Performs a command of libzip. No exception may pass through the library, which is written in C.
   static zip_int64_t Callback(void* self, void* data, zip_uint64_t length, zip_source_cmd_t command) {
     auto* file = static_cast<ZipFile*>(self);
     switch (command) {
@@ -54,7 +56,11 @@ class ZipFile {
         return sizeof(*stat);
       }
       default:
-        return file->Handle(data, length, command);
+        try {
+          return file->Handle(data, length, command);
+        } catch (const std::bad_alloc&) {
+          return file->Fail(ZIP_ER_MEMORY);
+        }
     }
   }
 

@@ -106,7 +106,7 @@ std::string CellGrid::SheetData(const std::string& prefix) const {
       if (cell.IsBlank()) continue;
       if (!rowOpen) out.append(rowStart).append(std::to_string(row)).append("\">");
       rowOpen = true;
-      out.append(cellStart).append(CellAddress(row, column, false)).append("\"");
+      out.append(cellStart).append(CellAddress(row, column)).append("\"");
       if (cell.style != 0) out.append(" s=\"").append(std::to_string(cell.style)).append("\"");
       switch (cell.kind) {
         case Kind::kEmpty:

@@ -118,9 +118,8 @@ std::string ColumnLetters(std::int32_t column) {
   return letters;
 }
 
-std::string CellAddress(std::int32_t row, std::int32_t column, bool absolute) {
-  const char* dollar = absolute ? "$" : "";
-  return dollar + ColumnLetters(column) + dollar + std::to_string(row);
+std::string CellAddress(std::int32_t row, std::int32_t column) {
+  return ColumnLetters(column) + std::to_string(row);
 }
 
 std::string RangeAddress(const CellRange& range) {
@@ -128,9 +127,11 @@ std::string RangeAddress(const CellRange& range) {
     return "$" + std::to_string(range.row1) + ":$" + std::to_string(range.row2);
   if (range.row1 == 1 && range.row2 == limits::kRows)
     return "$" + ColumnLetters(range.column1) + ":$" + ColumnLetters(range.column2);
-  std::string address = CellAddress(range.row1, range.column1);
-  if (range.CellCount() > 1) address += ":" + CellAddress(range.row2, range.column2);
-  return address;
+  const auto absolute = [](std::int32_t row, std::int32_t column) {
+    return "$" + ColumnLetters(column) + "$" + std::to_string(row);
+  };
+  const std::string first = absolute(range.row1, range.column1);
+  return range.CellCount() > 1 ? first + ":" + absolute(range.row2, range.column2) : first;
 }
 
 std::string QuotedSheetName(std::string_view name) {

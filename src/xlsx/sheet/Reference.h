@@ -20,6 +20,10 @@ struct CellRange {
   /// The first and the last row and column.
   std::int32_t row1 = 1, column1 = 1, row2 = 1, column2 = 1;
 
+  /// Returns true if a cell is in the rectangle.
+  bool Contains(const CellPlace& cell) const {
+    return cell.row >= row1 && cell.row <= row2 && cell.column >= column1 && cell.column <= column2;
+  }
   /// Number of rows.
   std::int32_t RowCount() const { return row2 - row1 + 1; }
   /// Number of columns.
@@ -37,8 +41,8 @@ struct SheetRange {
 
 /// Returns the letters of a column, from 1.
 std::string ColumnLetters(std::int32_t column);
-/// Returns "$A$1", or "A1" if `absolute` is false.
-std::string CellAddress(std::int32_t row, std::int32_t column, bool absolute = true);
+/// Returns "A1".
+std::string CellAddress(std::int32_t row, std::int32_t column);
 /// Returns "$A$1" for one cell, "$A$1:$B$2" for several cells, "$1:$2" for whole rows, or "$A:$B" for whole
 /// columns.
 std::string RangeAddress(const CellRange& range);

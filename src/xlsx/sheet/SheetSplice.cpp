@@ -82,8 +82,8 @@ void ReplaceSheetData(std::string& part, const std::function<std::string(const s
   const TextSpan ref = dimension ? FindAttribute(part, *dimension, "ref") : TextSpan();
   part.replace(data.begin, data.end - data.begin, sheetData(prefix));  // The dimension is before the cells.
   if (!ref.Found()) return;
-  std::string address = CellAddress(used.row1, used.column1, false);
-  if (used.CellCount() > 1) address += ":" + CellAddress(used.row2, used.column2, false);
+  std::string address = CellAddress(used.row1, used.column1);
+  if (used.CellCount() > 1) address += ":" + CellAddress(used.row2, used.column2);
   part.replace(ref.begin, ref.end - ref.begin, " ref=\"" + address + "\"");
 }
 

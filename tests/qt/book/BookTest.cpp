@@ -27,7 +27,7 @@ std::string BookTest::Tabs() {
 
 std::string BookTest::ActiveCell() {
   const xlsx::CellPlace cell = Sheet().ActiveCell();
-  return xlsx::CellAddress(cell.row, cell.column, false);
+  return xlsx::CellAddress(cell.row, cell.column);
 }
 
 QImage BookTest::Shot() { return Sheet().viewport()->grab().toImage(); }

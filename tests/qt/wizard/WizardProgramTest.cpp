@@ -134,6 +134,44 @@ TEST_F(WizardProgramTest, ALockStopsTheProgramWithTheCommandsMessage) {
   EXPECT_EQ(run.seen, "");
 }
 
+TEST_F(WizardProgramTest, ProblemsOfDefinitionsAreShownBeforeThePages) {
+  test::PlainBook broken = test::SalesBook({{"VEX_Chart1"}});
+  broken.sheets.pop_back();
+  broken.AddDefinitions({test::Definition{"VEX_Chart1"}.Xml(), "<chart"});
+  test::PlainBook twice = test::SalesBook({{"VEX_Chart1"}});
+  twice.sheets.push_back({.name = "More", .rows = {}, .frames = {{"VEX_Chart1"}}});
+  const struct {
+    test::PlainBook book;
+    S place, question;
+  } cases[] = {
+      {broken, "VEX_ChartDefinitions!A3: ", "The wizard would drop these definitions. Continue?"},
+      {twice, "More: ", "Charts could be confused with each other. Continue?"},
+  };
+  for (const auto& [book, place, question] : cases) {
+    SCOPED_TRACE(place);
+    book.Write(book_);
+    fresh_ = BytesOf(book_);
+    const auto refused = Run("box Cancel");
+    EXPECT_EQ(refused.seen, "box");
+    ASSERT_EQ(refused.told.size(), 1u);
+    EXPECT_TRUE(refused.told[0].starts_with(place)) << refused.told[0];
+    EXPECT_TRUE(refused.told[0].ends_with(".\n\n" + question)) << refused.told[0];
+    EXPECT_EQ(Run("box OK; page frmPSSelectAction; close").seen, "box frmPSSelectAction");
+    EXPECT_TRUE(BytesOf(book_) == fresh_);
+  }
+}
+
+TEST_F(WizardProgramTest, DamageStopsTheProgramWithTheCommandsMessage) {
+  test::SalesBook({{"VEX_Chart1"}}).Write(book_);
+  test::EditPart(book_, "/xl/worksheets/sheet3.xml", [](S& text) { text = "<worksheet><sheetData>"; });
+  const auto run = RunFreely("page frmPSSelectAction");
+  const auto command = test::RunCommand({"wizard", book_, "--script", "-"}, "close\n");
+  EXPECT_EQ(run.code, 3);
+  EXPECT_EQ(command.code, 3);
+  EXPECT_EQ("plotsmith: " + run.err + "\n", command.err);
+  EXPECT_EQ(run.seen, "");
+}
+
 TEST_F(WizardProgramTest, AnotherRunContinuesFromTheFirst) {
   const S removed =
       "press cmdFinish; bar Save; bar Chart Wizard; page frmPSSelectAction; select grdCharts #1; "

@@ -145,7 +145,7 @@ TEST_F(BookTest, AChangedChartGetsATheme) {
   SaveAndReopen();
   EXPECT_EQ(themes("book.xlsx"), "");
   EXPECT_EQ(themes("saved.xlsx"), "/xl/theme/theme1.xml " + S(content_type::kTheme));
-  EXPECT_EQ(SavedPart("/xl/theme/theme1.xml"), DefaultTheme(false));
+  EXPECT_EQ(SavedPart("/xl/theme/theme1.xml"), DefaultTheme(kTransitional));
   // The theme that exists stays, and a workbook without changed charts gets none.
   Book().FindWorksheet("Charts")->ChartObjects()->Item("Chart 1")->Chart()->SetHasLegend(true);
   SaveAndReopen();

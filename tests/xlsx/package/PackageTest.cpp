@@ -11,6 +11,7 @@
 #include "xlsx/base/Limits.h"
 #include "xlsx/package/Package.h"
 #include "xlsx/package/PackageError.h"
+#include "xlsx/package/PartNames.h"
 #include "xlsx/package/WorkbookKind.h"
 #include "xlsx/package/XString.h"
 #include "xlsx/package/Xml.h"

@@ -79,9 +79,9 @@ TEST(ReferenceTest, SheetNamesAreQuotedWhereTheyMustBe) {
       {"Q1–Q2", "'Q1–Q2'"}, {"", "''"}};
   for (const auto& [name, quoted] : cases) EXPECT_EQ(QuotedSheetName(name), quoted);
   EXPECT_EQ(SheetRangeAddress({"My Sheet", {1, 27, 3, 27}}), "'My Sheet'!$AA$1:$AA$3");
-  EXPECT_EQ(CellAddress(7, 702, true), "$ZZ$7");
-  EXPECT_EQ(CellAddress(7, 703, false), "AAA7");
-  EXPECT_EQ(CellAddress(1, 52, false), "AZ1");
+  EXPECT_EQ(RangeAddress({7, 702, 7, 702}), "$ZZ$7");
+  EXPECT_EQ(CellAddress(7, 703), "AAA7");
+  EXPECT_EQ(CellAddress(1, 52), "AZ1");
   EXPECT_EQ(RangeAddress(*ParseA1("3:4")), "$3:$4");
   EXPECT_EQ(RangeAddress(*ParseA1("B:AA")), "$B:$AA");
   EXPECT_EQ(RangeAddress(*ParseA1("A:XFD")), "$1:$1048576");

@@ -47,8 +47,7 @@ std::string Dump(const SheetContents& sheet) {
       const std::string value = Show(sheet, row, column);
       const std::uint32_t style = sheet.cells.StyleAt(row, column);
       if (value == "-" && style == 0) continue;
-      text += CellAddress(row, column, false) + "=" + value +
-              (style == 0 ? "" : "/" + std::to_string(style)) + " ";
+      text += CellAddress(row, column) + "=" + value + (style == 0 ? "" : "/" + std::to_string(style)) + " ";
     }
   }
   if (sheet.used) text += "used " + RangeAddress(*sheet.used);
@@ -56,7 +55,7 @@ std::string Dump(const SheetContents& sheet) {
     text += " ht" + std::to_string(row) + "=" + xml::Number(height);
   if (sheet.formulas) text += " formulas";
   for (const CellPlace& place : sheet.formulasWithoutResult)
-    text += " -" + CellAddress(place.row, place.column, false);
+    text += " -" + CellAddress(place.row, place.column);
   for (const CellRange& range : sheet.mergedCells) text += " merged " + RangeAddress(range);
   return text;
 }

@@ -12,8 +12,8 @@ class ChartPart;
 // a few points at most.
 inline constexpr double kChartInset = 7;      ///< The margin inside the edge of a chart.
 inline constexpr double kTitlePadding = 7.2;  ///< The sum of the padding above and below the text of a title.
-inline constexpr double kTitleShare =
-    0.8;                                ///< The share of the width of the chart at which a title is wrapped.
+/// The share of the width of the chart at which a title is wrapped.
+inline constexpr double kTitleShare = 0.8;
 inline constexpr double kTitleGap = 5;  ///< The gap between the title of the chart and the plot area.
 inline constexpr double kLabelGap = 5;  ///< The gap between an axis and its labels.
 /// The minimum share of the chart's width and height that the plot area takes.
