@@ -80,8 +80,7 @@ TEST_F(PackageFileTest, UntouchedPartsKeepTheirBytesOrderAndNames) {
 }
 
 TEST_F(PackageFileTest, AFileThatAnotherProgramHasChangedIsNotReplaced) {
-  const S path = folder_ / "book.xlsx";
-  Package::Open(Write(test::PlainSales(), "original.xlsx")).Save(path);
+  const S path = Book();
   auto first = Package::Open(path), second = Package::Open(path);
   first.Replace("/xl/workbook.xml", "<first/>");
   second.Replace("/xl/workbook.xml", "<second/>");
@@ -90,7 +89,8 @@ TEST_F(PackageFileTest, AFileThatAnotherProgramHasChangedIsNotReplaced) {
     first.Save(path);
   }
   const S before = test::BytesOf(path);
-  EXPECT_EQ(test::ErrorTextOf([&] { second.Save(path); }), "another program has changed it since it was read");
+  EXPECT_EQ(test::ErrorTextOf<PackageError>([&] { second.Save(path); }),
+            "another program has changed it since it was read");
   EXPECT_EQ(test::BytesOf(path), before);
   second.Save(folder_ / "other.xlsx");
   EXPECT_EQ(Package::Open(folder_ / "other.xlsx").Read("/xl/workbook.xml"), "<second/>");
