@@ -38,6 +38,17 @@ class ChartVerbsTest : public VerbsTest {
   S out_ = folder_ / "out.xlsx";
 };
 
+TEST_F(ChartVerbsTest, ATableWithoutTypesHasAReason) {
+  const std::pair<PlainRow, S> cases[] = {{{2019.0, 7.0}, "label"}, {{S("East"), S("-")}, "number"}};
+  for (const auto& [row, missing] : cases) {
+    PlainBook book;
+    book.sheets.push_back({"Data1", {{S("Year"), S("Sales")}, row}});
+    EXPECT_EQ(RunCommand({"new", Write(book), "--table", "Data1", "--type", "bar"}).err,
+              "plotsmith: the table 'Data1' doesn't allow the type 'bar'; it has no " + missing +
+                  " column, and every type needs at least one label column and one number column.\n");
+  }
+}
+
 TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
   const std::pair<std::vector<S>, S> cases[] = {
       // tables, types and charts

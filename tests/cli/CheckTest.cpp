@@ -242,6 +242,8 @@ TEST_F(CheckTest, RequirementsOfTypes) {
   const S region = Definition().categories, product = Definition().series, amount = Definition().values;
   const std::pair<Definition, List> cases[] = {
       {definition("bar", region + across), {}},
+      {definition("bar", region + runtime::Replace(across, "Cost", "AMOUNT")),
+       {"The element 'series' names the column 'AMOUNT' twice, ignoring case."}},
       {definition("bar", product + amount), {"A bar chart needs the element 'categories'."}},
       {definition("pie", region + amount), {"A pie chart needs the element 'series'."}},
       {definition("pie", region + "<series headings-in=\"none\"/>" + amount), {}},
@@ -349,6 +351,10 @@ TEST_F(CheckTest, UnsuitableCells) {
   EXPECT_EQ(
       found([&](Rows& rows) { rows[0][3] = rows[1][3] = formula; }),
       List{"Data1!D1: The heading is a formula without a result, so its column is ignored" + calculate});
+  EXPECT_EQ(
+      found([&](Rows& rows) { rows[0][3] = S("AMOUNT"); }),
+      List{"Data1!D1: The heading 'AMOUNT' is the same as in Data1!C1, ignoring case, so charts use that "
+           "column and never this one."});
   EXPECT_EQ(found([&](Rows& rows) {
               rows[0].push_back(RawCell{"><f>A1</f><v>5</v></c>"});
               rows[1].push_back(RawCell{" t=\"str\"><f>\"\"</f><v></v></c>"});

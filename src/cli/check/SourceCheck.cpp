@@ -1,6 +1,7 @@
 #include "cli/check/SourceCheck.h"
 
 #include <algorithm>
+#include <set>
 #include <vector>
 
 #include "cli/check/ColumnCells.h"
@@ -84,13 +85,21 @@ class SourceCheck {
     }
     const std::string headingsIn = GetAttributeText(element, "headings-in");
     if (!group.IsReadFor(type_) || headingsIn == "none") return;
-    const std::size_t count = element.selectNodes("column").size();
+    const auto columns = element.selectNodes("column");
+    const std::size_t count = columns.size();
     if (count == 0) {
       Report(FindingKind::kFormat, "The element " + quoted + " names no column.");
     } else if (count > 1 && headingsIn != "columns") {
       Report(FindingKind::kFormat, "The element " + quoted +
                                        (headingsIn == "rows" ? " with headings in rows" : "") +
                                        " needs exactly one column, but names " + std::to_string(count) + ".");
+    }
+    std::set<std::string> names;
+    for (const IXMLDOMElement& column : columns) {
+      const std::string name = GetAttributeText(column, "name");
+      if (names.insert(runtime::UCase(name)).second) continue;
+      Report(FindingKind::kColumn,
+             "The element " + quoted + " names the column " + Quoted(name) + " twice, ignoring case.");
     }
   }
 

@@ -14,6 +14,7 @@
 #include "common/RunVariables.h"
 #include "common/Values.h"
 #include "metadata/TableDefinitions.h"
+#include "runtime/Strings.h"
 #include "xlsx/Workbook.h"
 #include "xlsx/Worksheet.h"
 
@@ -101,6 +102,23 @@ void CheckErrors(xlsx::Worksheet& sheet, const TableArea& area, const dom::IXMLD
   }
 }
 
+/// Finds columns that no chart can use, because an earlier column of their kind has the same heading.
+void CheckHeadings(const TableArea& area, const dom::IXMLDOMElement& table, Findings& findings) {
+  for (const char* kind : {"label-column", "number-column"}) {
+    std::map<std::string, std::int32_t> first;  // column numbers by heading in upper case
+    for (const dom::IXMLDOMElement& column : table.selectNodes(kind)) {
+      const std::string name = GetAttributeText(column, "name");
+      const std::int32_t number = GetAttributeLong(column, "worksheet-column-number");
+      const auto [earlier, isNew] = first.emplace(runtime::UCase(name), number);
+      if (isNew) continue;
+      findings.push_back({CellText(area.sheet, area.HeadingRow(), number), FindingKind::kCells,
+                          "The heading " + Quoted(name) + " is the same as in " +
+                              CellText(area.sheet, area.HeadingRow(), earlier->second) +
+                              ", ignoring case, so charts use that column and never this one."});
+    }
+  }
+}
+
 /// Returns the names of the columns that a definition uses.
 std::vector<std::string> UsedColumns(const dom::IXMLDOMElement& chart) {
   std::vector<std::string> names;
@@ -174,6 +192,7 @@ std::vector<CheckedTable> CheckTables(xlsx::Workbook& book) {
     const TableArea area(table);
     const auto sheet = book.FindWorksheet(area.sheet);
     if (!sheet) continue;
+    CheckHeadings(area, table, checked.findings);
     CheckErrors(*sheet, area, table, checked.findings);
     CheckFormulas(*sheet, area, FormulaScope(), checked.findings);
   }

@@ -67,6 +67,15 @@ Step WorkStep(const char* button, const std::string& chart) {
   };
 }
 
+/// Returns the types that can be chosen, or the reason why there are none.
+std::string TypesOrReason(const std::vector<std::string>& types) {
+  if (!types.empty()) return ThereAre(types);
+  const auto table = colTables->Item(sTableID).selectSingleNode("table");
+  const char* const missing = table.selectSingleNode("label-column") ? "number column" : "label column";
+  return "it has no " + std::string(missing) +
+         ", and every type needs at least one label column and one number column";
+}
+
 /// Selects a chart type that the selected table allows.
 Step ChartTypeStep(const std::string& type) {
   return [type](const forms::Form& page) -> std::optional<std::string> {
@@ -81,7 +90,7 @@ Step ChartTypeStep(const std::string& type) {
       if (page.FindControl(optionOf(name))->Enabled()) offered.push_back(name);
     }
     throw ScriptError("the table " + Quoted(sTableID) + " doesn't allow the type " + Quoted(type) + "; " +
-                      ThereAre(offered));
+                      TypesOrReason(offered));
   };
 }
 
