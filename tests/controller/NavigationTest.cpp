@@ -106,8 +106,9 @@ TEST_F(NavigationTest, ARunWithoutTablesEndsBeforeItsMessage) {
   book.sheets.push_back({"Sheet1"});
   Open(book);
   EXPECT_EQ(Run({}), "");
-  EXPECT_EQ(Messages(), (std::vector<S>{"Brindle Plotsmith: This workbook contains no tables. You must create "
-                                        "one in order to run the Plotsmith."}));
+  EXPECT_EQ(Messages(),
+            (std::vector<S>{"Brindle Plotsmith: This workbook contains no tables. You must create "
+                            "one in order to run the Plotsmith."}));
   const S off = "Application.ScreenUpdating = False", on = "Application.ScreenUpdating = True";
   EXPECT_EQ(std::vector<S>(journal_.end() - 3, journal_.end()), (std::vector<S>{off, on, on}))
       << "the run ends, then shows its message, and ends again";

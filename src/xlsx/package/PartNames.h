@@ -7,9 +7,8 @@
 /// space, not "%20".
 namespace plotsmith::xlsx {
 
-/// Returns the name of the part with the relationships of a part, or of the package for an empty name. Those
-/// of
-/// "/xl/workbook.xml" are in "/xl/_rels/workbook.xml.rels".
+/// Returns the name of the part with the relationships of a part, or of the package for an empty name.
+/// "/xl/workbook.xml" has its relationships in "/xl/_rels/workbook.xml.rels".
 std::string RelationshipsPart(std::string_view part);
 
 /// Returns the name that a file stores with percent-encoded characters.
