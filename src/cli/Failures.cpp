@@ -2,9 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <exception>
-#include <string>
 
-#include "cli/Command.h"
+#include "cli/check/Words.h"
 #include "xlsx/package/PackageError.h"
 
 namespace plotsmith::cli {
@@ -25,6 +24,12 @@ int Guarded(std::ostream& err, const std::function<int()>& work) {
   } catch (const std::exception& e) {
     return fail(std::string("an unexpected error occurred: ") + e.what(), exit_code::kFile);
   }
+}
+
+CommandError NotInBook(const std::string& book, const std::string& kind, const std::string& name,
+                       const std::vector<std::string>& there) {
+  return CommandError(exit_code::kUsage,
+                      "\"" + book + "\" has no " + kind + " " + Quoted(name) + "; " + ThereAre(there) + ".");
 }
 
 }  // namespace plotsmith::cli

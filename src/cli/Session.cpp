@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "cli/ChartState.h"
+#include "cli/Failures.h"
+#include "cli/check/TableCheck.h"
 #include "cli/check/Words.h"
 #include "common/Documents.h"
 #include "common/PSConstants.h"
@@ -157,8 +159,7 @@ void Session::CheckFree(const std::string& target) const {
 
 void Session::CheckTable(const std::string& id) const {
   if (!colTables || !colCharts || Book().Damage() || IsTableKnown(id)) return;
-  throw CommandError(exit_code::kUsage,
-                     "\"" + path_ + "\" has no table \"" + id + "\" (plotsmith tables lists its tables).");
+  throw NotInBook(path_, "table", id, LoadedTableIds());
 }
 
 void Session::Guard(const std::function<void()>& check) const {

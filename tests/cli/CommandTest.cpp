@@ -167,7 +167,9 @@ TEST_F(CommandTest, WrongUsageHasExitCode2) {
     EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
   }
   EXPECT_EQ(RunCommand({"--journal", "dance"}).err,
-            "plotsmith: there is no command \"dance\" (try plotsmith --help)\n");
+            "plotsmith: there is no command 'dance'; there are refresh, render, new, modify, copy, delete, "
+            "wizard, rename-columns, check, tables, charts, definition, cells, format, save and help (try "
+            "plotsmith --help)\n");
   EXPECT_EQ(RunCommand({"--help"}).code, 0);
 }
 
@@ -297,7 +299,7 @@ TEST_F(CommandTest, HelpAndVersionCanBeRequestedInEveryWay) {
   EXPECT_EQ(RunCommand({"-V"}).code + RunCommand({"help"}).code, 0);
   const CommandResult unknown = RunCommand({"help", "dance"});
   EXPECT_EQ(unknown.code, 2);
-  EXPECT_EQ(unknown.err, "plotsmith: there is no command \"dance\" (try plotsmith --help)\n");
+  EXPECT_EQ(unknown.err, RunCommand({"dance"}).err);
 }
 
 TEST_F(CommandTest, Formats) {
@@ -339,7 +341,7 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   CommandResult result = RunCommand(
       {"rename-columns", book, "--table", "Data1", "Region=Product", "Product=Region", "Amount=Units"});
   const S waiting =
-      "plotsmith: the table \"Data1\" has no column \"Units\" yet, so its charts weren't drawn.\n";
+      "plotsmith: the table 'Data1' has no column 'Units' yet, so its charts weren't drawn.\n";
   EXPECT_EQ(result.err, waiting);
   EXPECT_EQ(result.code, 1);
   EXPECT_NE(
@@ -368,13 +370,13 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(result.err,
-            "plotsmith: no chart of the table \"Data1\" has a column \"Amuont\".\n"
-            "plotsmith: no chart of the table \"Data1\" has a column \"label\".\n");
+            "plotsmith: no chart of the table 'Data1' has a column 'Amuont'; there are Product, Region and Units.\n"
+            "plotsmith: no chart of the table 'Data1' has a column 'label'; there are Product, Region and Units.\n");
   EXPECT_EQ(BytesOf(book), before);
   for (const auto& [arguments, said] : std::vector<std::pair<std::vector<S>, S>>{
-           {{"--table", "Data1", "Region"}, "\"Region\" isn't a renaming"},
-           {{"--table", "Data1", "A=B", "A=C"}, "\"A\" is renamed twice"},
-           {{"--table", "Data9", "A=B"}, "has no table \"Data9\""},
+           {{"--table", "Data1", "Region"}, "'Region' isn't a renaming"},
+           {{"--table", "Data1", "A=B", "A=C"}, "'A' is renamed twice"},
+           {{"--table", "Data9", "A=B"}, "has no table 'Data9'; there is Data1."},
            {{"--table", "", "A=B"}, "--table needs the id of a table."},
            {{"A=B"}, "--table is required"},
            {{"--table", "Data1"}, "OLD=NEW is required"}}) {

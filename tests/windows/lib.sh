@@ -15,6 +15,9 @@ export LC_ALL=C.UTF-8
 # but waking it up can take most of the time: on two idle cores the dialogs' tests took five times as long.
 taskset -cp "$(taskset -cp $$ | sed 's/.*: //; s/[-,].*//')" $$ >/dev/null
 
+# The full path of the script host. Wine would start a bare name through one more program.
+cscript='C:\windows\system32\cscript.exe'
+
 passed=0
 failed=0
 
@@ -81,7 +84,7 @@ dump() {
 # Runs a script and prints its output without carriage returns: SCRIPT ARGUMENT...
 # $work/wine.txt receives what Wine says, and its exit code unless it is 0.
 run_script() {
-  { wine cscript //nologo "$@" 2>"$work/wine.txt" || echo "exit code $?" >>"$work/wine.txt"; } | tr -d '\r'
+  { wine "$cscript" //nologo "$@" 2>"$work/wine.txt" || echo "exit code $?" >>"$work/wine.txt"; } | tr -d '\r'
 }
 
 # Runs a script that makes its own checks, with tests/windows/check.js and the host add-in of the examples: SCRIPT
@@ -95,7 +98,7 @@ script_checks() {
     echo '} catch (error) { WScript.Echo("0x" + (error.number >>> 0).toString(16) + " " + error.message); }'
   } >"$work/$name.js"
   shift
-  output=$(timeout 900 wine cscript //nologo "$(windows_path "$work/$name.js")" "$@" 2>/dev/null | tr -d '\r') || true
+  output=$(timeout 900 wine "$cscript" //nologo "$(windows_path "$work/$name.js")" "$@" 2>/dev/null | tr -d '\r') || true
   last=$(printf '%s\n' "$output" | tail -n 1)
   case $last in
     *" passed, "*" failed")

@@ -121,7 +121,7 @@ WScript.Echo(addIn.helpFile + " " + new ActiveXObject("Scripting.FileSystemObjec
 WScript.Echo("[" + boxes.Take() + "]");
 END
   } >"$work/use.js"
-  WINEDEBUG=+loaddll wine cscript //nologo "$copy\\use.js" "$2\\example\\bicycle-sales.xlsx" "$copy\\script.xlsx" \
+  WINEDEBUG=+loaddll wine "$cscript" //nologo "$copy\\use.js" "$2\\example\\bicycle-sales.xlsx" "$copy\\script.xlsx" \
     2>"$work/loaded" | tr -d '\r' >"$work/printed"
   grep -o 'Loaded L".*[\]Plotsmith\.dll"' "$work/loaded" | sed 's/\\\\/\\/g' >>"$work/printed" || true
   printf '%s\n' "$2\\Plotsmith.chm true" "[]" "Loaded L\"$2\\x64\\Plotsmith.dll\"" >"$work/expected"

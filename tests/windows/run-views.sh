@@ -22,7 +22,7 @@ same_run() {
   build/plotsmith wizard $orders --script "$work/script.txt" -o "$work/linux.xlsx" >"$work/linux.txt" 2>/dev/null ||
     fails "exit code $?" "the command's own $type"
   rm -f "$work/windows.xlsx"
-  timeout 120 wine cscript //nologo "$(windows_path tests/windows/wizard.js)" "$(windows_path $orders)" \
+  timeout 120 wine "$cscript" //nologo "$(windows_path tests/windows/wizard.js)" "$(windows_path $orders)" \
     "$(windows_path "$work/script.txt")" "$(windows_path "$work")\\windows.xlsx" 2>/dev/null | tr -d '\r' >"$work/printed.txt"
   sed 1d "$work/printed.txt" | sed '$d' >"$work/windows.txt"
   if [ -n "$(head -n 1 "$work/printed.txt")" ]; then

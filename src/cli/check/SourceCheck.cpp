@@ -28,13 +28,7 @@ constexpr const char* kBucketType = "strategic bucket";
 constexpr const char* kBrokenBucketType = "column";
 
 /// Returns the existing tables as the end of a sentence.
-std::string OtherTables() {
-  std::vector<std::string> ids;
-  for (const auto& document : *colTables) {
-    ids.push_back(GetAttributeText(document.selectSingleNode("table"), "id"));
-  }
-  return ThereAre(ids);
-}
+std::string OtherTables() { return ThereAre(LoadedTableIds()); }
 
 std::string Headings(const IXMLDOMNodeList& columns) {
   std::vector<std::string> names;

@@ -163,6 +163,14 @@ Findings CheckFormulasOf(xlsx::Worksheet& sheet, const dom::IXMLDOMElement& tabl
 
 }  // namespace
 
+std::vector<std::string> LoadedTableIds() {
+  std::vector<std::string> ids;
+  for (const auto& document : *colTables) {
+    ids.push_back(GetAttributeText(document.selectSingleNode("table"), "id"));
+  }
+  return ids;
+}
+
 Findings CheckUsedCells(xlsx::Workbook& book, const dom::IXMLDOMElement& chart) {
   const std::string bucketTable = GetAttributeText(chart, "strategic-bucket-table-id");
   const auto buckets = bucketTable.empty() ? dom::IXMLDOMElement() : FindTable(bucketTable);

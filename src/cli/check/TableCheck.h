@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "cli/check/Finding.h"
@@ -14,6 +15,9 @@ struct CheckedTable {
   dom::IXMLDOMElement table;  ///< Nothing for a name that defines no table.
   Findings findings;          ///< The problems of the table; empty if there are none.
 };
+
+/// Returns the ids of the tables in `colTables`, in their order.
+std::vector<std::string> LoadedTableIds();
 
 /// Checks the cells of the columns that the definition `chart` uses, in the tables in `colTables`, for
 /// formulas without a result. If a column is missing, it checks the headings too. Changes nothing.

@@ -6,6 +6,7 @@
 #include <ostream>
 #include <utility>
 
+#include "cli/Failures.h"
 #include "cli/Session.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Variant.h"
@@ -87,8 +88,11 @@ int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   if (!range)
     throw CommandError(exit_code::kUsage, "\"" + range_ + "\" isn't a range such as 'Sheet1!A1:D9'.");
   const auto sheet = session.Book().FindWorksheet(range->sheet);
-  if (!sheet)
-    throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no sheet \"" + range->sheet + "\".");
+  if (!sheet) {
+    std::vector<std::string> names;
+    for (const auto& worksheet : session.Book().AllWorksheets()) names.push_back(worksheet->Name());
+    throw NotInBook(book_, "worksheet", range->sheet, names);
+  }
 
   Json rows = Json::array();
   std::string scratch;

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/ChartLookup.h"
+#include "cli/Failures.h"
 #include "cli/Session.h"
 #include "common/RunVariables.h"
 
@@ -23,8 +24,9 @@ int DefinitionCommand::Run(const GlobalOptions& options, const Streams& streams)
     throw CommandError(exit_code::kUsage, SeveralCharts(charts, places, chart_) + ".");
   }
   if (places.empty()) {
-    throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no chart \"" + chart_ +
-                                              "\" (plotsmith charts lists its charts).");
+    std::vector<std::string> ids;
+    for (const ChartName& chart : charts) ids.push_back(chart.id);
+    throw NotInBook(book_, "chart", chart_, ids);
   }
   streams.out << colCharts->Item(charts[places.front()].id).xml() << '\n';
   return code;

@@ -1,10 +1,12 @@
 #include "cli/commands/Refresh.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <utility>
 
+#include "cli/NumberOptions.h"
 #include "cli/Session.h"
 #include "cli/batch/Workers.h"
 #include "cli/render/DrawnCharts.h"
@@ -20,10 +22,10 @@ void RefreshCommand::DeclareOptions(CLI::App& verb) {
                   "Write to this file, or into this folder, and leave BOOK as it is; \"-\" is the standard "
                   "output")
       ->type_name("FILE");
-  verb.add_option("--jobs", jobs_,
-                  "Work on this many workbooks at a time (default: two for each processor). "
-                  "On Windows, workbooks are processed one after the other")
-      ->type_name("N");
+  DeclareNumber(
+      verb, "--jobs", [this](double jobs) { jobs_ = jobs; },
+      "Work on this many workbooks at a time (default: two for each processor). "
+      "On Windows, workbooks are processed one after the other");
   verb.add_flag("--verbose", verbose_, "Print a summary at the end");
   verb.add_option("--render", pictureFolder_, "Also draw the refreshed charts into this folder")
       ->type_name("FOLDER");
@@ -37,8 +39,9 @@ int RefreshCommand::Run(const GlobalOptions& options, const Streams& streams) {
   CheckPictures(runs);
   const auto refresh = [&](const BookRun& run, const Streams& to) { return RefreshBook(run, options, to); };
   if (runs.size() > 1) {
-    return RunBatch(runs, refresh, jobs_ ? static_cast<std::size_t>(*jobs_) : UsualProcesses(), verbose_,
-                    streams);
+    const auto most = static_cast<double>(runs.size());
+    const auto processes = jobs_ ? static_cast<std::size_t>(std::min(*jobs_, most)) : UsualProcesses();
+    return RunBatch(runs, refresh, processes, verbose_, streams);
   }
   const BookResult result = refresh(runs.front(), streams);
   if (verbose_ || streams.terminal) streams.err << CountsText(result.counts) << '\n';

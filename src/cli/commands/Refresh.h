@@ -26,7 +26,7 @@ class RefreshCommand final : public Command {
   std::vector<std::string> books_;
   std::optional<std::string> table_;
   std::optional<std::string> output_;
-  std::optional<int> jobs_;
+  std::optional<double> jobs_;
   bool verbose_ = false;
   std::optional<std::string> pictureFolder_;
   PictureOptions pictures_;

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "cli/Session.h"
+#include "cli/check/Words.h"
 #include "common/Documents.h"
 #include "common/RunVariables.h"
 #include "common/Values.h"
@@ -25,12 +26,12 @@ std::vector<Renaming> Parse(const std::vector<std::string>& texts) {
     const auto sign = text.find('=');
     if (sign == std::string::npos || sign == 0 || sign + 1 == text.size()) {
       throw CommandError(exit_code::kUsage,
-                         "\"" + text + "\" isn't a renaming; it must have the form OLD=NEW.");
+                         Quoted(text) + " isn't a renaming; it must have the form OLD=NEW.");
     }
     renamings.emplace_back(text.substr(0, sign), text.substr(sign + 1));
     if (!old.insert(renamings.back().first).second) {
       throw CommandError(exit_code::kUsage,
-                         "the column \"" + renamings.back().first + "\" is renamed twice.");
+                         "the column " + Quoted(renamings.back().first) + " is renamed twice.");
     }
   }
   return renamings;
@@ -45,15 +46,17 @@ bool HasColumn(const std::string& table, const std::string& name) {
   });
 }
 
-/// Returns true if a chart of the table names the column.
-bool IsCharted(const std::string& table, const std::string& column) {
-  return std::any_of(colCharts->begin(), colCharts->end(), [&](const dom::IXMLDOMDocument2& document) {
-    if (GetAttributeText(document.selectSingleNode("chart"), "table-id") != table) return false;
-    const auto columns = document.selectNodes("//column");
-    return std::any_of(columns.begin(), columns.end(), [&](const dom::IXMLDOMElement& element) {
-      return GetAttributeText(element, "name") == column;
-    });
-  });
+/// Returns the columns that the charts of the table use, each once.
+std::vector<std::string> ChartedColumns(const std::string& table) {
+  std::vector<std::string> names;
+  for (const dom::IXMLDOMDocument2& document : *colCharts) {
+    if (GetAttributeText(document.selectSingleNode("chart"), "table-id") != table) continue;
+    for (const dom::IXMLDOMElement& column : document.selectNodes("//column")) {
+      const std::string name = GetAttributeText(column, "name");
+      if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+    }
+  }
+  return names;
 }
 
 }  // namespace
@@ -101,18 +104,20 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
   CPlotsmithController controller;
   controller.UpdateChartColumnNamesForTable(session.Host(), table_, oldNames, newNames);
   session.CheckTable(table_);
+  const auto charted = colCharts ? ChartedColumns(table_) : std::vector<std::string>();
   std::vector<std::string> complaints;
   bool renamed = false, ready = true;
   for (const auto& [oldName, newName] : renamings) {
-    if (colCharts && !IsCharted(table_, newName)) {
+    if (colCharts && std::find(charted.begin(), charted.end(), newName) == charted.end()) {
       // No earlier run has renamed it either, so the name may be mistyped.
-      complaints.push_back("no chart of the table \"" + table_ + "\" has a column \"" + oldName + "\".");
+      complaints.push_back("no chart of the table " + Quoted(table_) + " has a column " + Quoted(oldName) +
+                           "; " + ThereAre(charted) + ".");
       continue;
     }
     renamed = true;
     if (!HasColumn(table_, newName)) {
-      complaints.push_back("the table \"" + table_ + "\" has no column \"" + newName +
-                           "\" yet, so its charts weren't drawn.");
+      complaints.push_back("the table " + Quoted(table_) + " has no column " + Quoted(newName) +
+                           " yet, so its charts weren't drawn.");
       ready = false;
     }
   }

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <utility>
 
+#include "cli/Failures.h"
 #include "cli/Session.h"
 #include "cli/check/Words.h"
 #include "cli/render/ChartsToDraw.h"
@@ -63,7 +64,11 @@ int RenderCommand::RenderCharts(Session& session, std::unique_ptr<PictureWriter>
 int RenderCommand::RenderSheet(Session& session, std::unique_ptr<PictureWriter> writer,
                                const Streams& streams) const {
   const auto sheet = session.Book().FindSheet(*sheet_);
-  if (!sheet) throw CommandError(exit_code::kUsage, "\"" + book_ + "\" has no sheet \"" + *sheet_ + "\".");
+  if (!sheet) {
+    std::vector<std::string> names;
+    for (const auto& one : session.Book().AllSheets()) names.push_back(one->name);
+    throw NotInBook(book_, "sheet", *sheet_, names);
+  }
   const auto paper = onePage_ ? render::Paper::kOne : render::Paper::kPrinted;
   const bool hasMessages = WriteSheet(session.Book(), book_, *sheet, paper, std::move(writer), streams);
   return hasMessages ? exit_code::kDoneWithMessages : session.Finish();

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "cli/HostVersionOption.h"
+#include "cli/NumberOptions.h"
+#include "cli/check/Words.h"
 #include "cli/commands/AllCommands.h"
 #include "cli/line/Help.h"
 
@@ -50,8 +51,11 @@ void CommandLine::DeclareOptions(const std::string& verb) {
   }
 }
 
-std::string NoSuchVerb(const std::string& name) {
-  return "there is no command \"" + name + "\" (try plotsmith --help)";
+CommandError CommandLine::NoSuchVerb(const std::string& name) const {
+  std::vector<std::string> names;
+  for (const CLI::App* verb : verbs) names.push_back(verb->get_name());
+  return CommandError(exit_code::kUsage, "there is no command " + Quoted(name) + "; " + ThereAre(names) +
+                                             " (try plotsmith --help)");
 }
 
 }  // namespace plotsmith::cli

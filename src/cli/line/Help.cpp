@@ -19,7 +19,7 @@ int HelpCommand::Run(const GlobalOptions&, const Streams& streams) {
   }
   const auto verb = std::find_if(line.verbs.begin(), line.verbs.end(),
                                  [&](const CLI::App* app) { return app->get_name() == verb_; });
-  if (verb == line.verbs.end()) throw CommandError(exit_code::kUsage, NoSuchVerb(verb_));
+  if (verb == line.verbs.end()) throw line.NoSuchVerb(verb_);
   streams.out << (*verb)->help(line.app.get_name());
   return exit_code::kDone;
 }

@@ -69,7 +69,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
     const bool known = at >= arguments.size() || arguments[at].starts_with('-') ||
                        std::any_of(line.verbs.begin(), line.verbs.end(),
                                    [&](const CLI::App* verb) { return verb->get_name() == arguments[at]; });
-    if (!known) throw CommandError(exit_code::kUsage, NoSuchVerb(arguments[at]));
+    if (!known) throw line.NoSuchVerb(arguments[at]);
     arguments = WithFormatsBehindTheOptions(std::move(arguments), at, line.app);
     std::reverse(arguments.begin(), arguments.end());  // The parser expects them in reverse order.
     int code = exit_code::kDone;

@@ -4,7 +4,7 @@
 #include <set>
 #include <utility>
 
-#include "cli/Command.h"
+#include "cli/Failures.h"
 #include "cli/check/Words.h"
 #include "host/excel/Constants.h"
 #include "runtime/Strings.h"
@@ -74,8 +74,7 @@ CommandError NoSuchChart(xlsx::Workbook& book, const std::vector<DefinedChart>& 
   std::vector<std::string> there;
   for (const DefinedChart& one : defined) there.push_back(one.id);
   for (const std::string& other : OtherCharts(book, defined)) there.push_back(Quoted(other));
-  return CommandError(exit_code::kUsage,
-                      "\"" + path + "\" has no chart " + Quoted(name) + "; " + ThereAre(there) + ".");
+  return NotInBook(path, "chart", name, there);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "cli/Command.h"
+#include "cli/NumberOptions.h"
 #include "cli/Session.h"
 #include "cli/check/Words.h"
 #include "runtime/Strings.h"
@@ -77,9 +78,12 @@ const char* EndingOf(PictureFormat format) {
 void DeclarePictureOptions(CLI::App& verb, PictureOptions& options, const std::string& usualFormat) {
   verb.add_option("--format", options.format, "Write svg, png or pdf (default: " + usualFormat + ")")
       ->type_name("KIND");
-  verb.add_option("--dpi", options.dpi, "Set the resolution of PNG pictures in pixels per inch (default: 96)")
-      ->type_name("N");
-  verb.add_option("--scale", options.scale, "Enlarge the picture by this factor")->type_name("N");
+  DeclareNumber(
+      verb, "--dpi", [&options](double dpi) { options.dpi = dpi; },
+      "Set the resolution of PNG pictures in pixels per inch (default: 96)");
+  DeclareNumber(
+      verb, "--scale", [&options](double scale) { options.scale = scale; },
+      "Enlarge the picture by this factor");
 }
 
 bool LooksLikePicture(const std::string& path) { return !IsFolder(path) && FormatOfFile(path).has_value(); }

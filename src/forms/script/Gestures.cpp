@@ -31,7 +31,9 @@ struct Gesture {
 
 /// Returns the error for a control of the wrong kind. `wanted` is the right kind.
 ScriptError WrongKind(const Gesture& gesture, const Control& control, const char* wanted) {
-  return ScriptError(control.FullName() + " is a " + control.TypeName() + ", and '" +
+  const std::string kind = control.TypeName();
+  const bool hasVowel = std::string_view("AEIOU").find(kind.front()) != std::string_view::npos;
+  return ScriptError(control.FullName() + (hasVowel ? " is an " : " is a ") + kind + ", and '" +
                      gesture.words.front().text + "' is for " + wanted);
 }
 

@@ -4,7 +4,7 @@
 #include <iostream>
 #include <utility>
 
-#include "cli/HostVersionOption.h"
+#include "cli/NumberOptions.h"
 #include "qt/wizard/EventLoop.h"
 #include "qt/wizard/WizardProgram.h"
 

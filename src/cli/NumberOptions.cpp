@@ -1,0 +1,29 @@
+#include "cli/NumberOptions.h"
+
+#include <CLI/CLI.hpp>
+#include <utility>
+
+#include "cli/check/Words.h"
+#include "runtime/Variant.h"
+
+namespace plotsmith::cli {
+
+CLI::Option* DeclareNumber(CLI::App& app, const std::string& name, std::function<void(double)> store,
+                           const std::string& description) {
+  const auto parse = [name, store = std::move(store)](const std::string& text) {
+    const auto number = runtime::ParseNumber(text);
+    if (!number) throw CLI::ConversionError(name + " needs a number, not " + Quoted(text));
+    store(*number);
+  };
+  return app.add_option_function<std::string>(name, parse, description)->type_name("N");
+}
+
+void DeclareHostVersion(CLI::App& app, double& version) {
+  DeclareNumber(
+      app, "--host-version", [&version](double number) { version = number; },
+      "Behave like Plotsmith in this version of Excel; versions up to 11 and later ones differ")
+      ->type_name("NUMBER")
+      ->default_str(runtime::NumberText(version));
+}
+
+}  // namespace plotsmith::cli
