@@ -7,7 +7,7 @@
 #include "windows/views/Annotations.h"
 #include "windows/views/ControlViews.h"
 #include "windows/views/DisabledWindows.h"
-#include "windows/views/Fonts.h"
+#include "windows/views/ScrolledPage.h"
 
 namespace plotsmith::windows {
 
@@ -42,29 +42,12 @@ class FormWindow {
   static const wchar_t* ClassName();
   LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> HandleControl(UINT message, WPARAM wParam, LPARAM lParam);
-  std::optional<LRESULT> HandlePlace(UINT message, WPARAM wParam, LPARAM lParam);
 
   /// Returns the view of the control with the focus, or null if none has it.
   ControlView* FocusView() const;
   bool TakeKey(const MSG& message);
   void UpdateFocus();
 
-  void UseDpi(UINT dpi);
-  /// Returns the size of the client area, including scroll bars.
-  forms::Size Room() const;
-  /// Returns the size in pixels of a window whose client area has this size, at `dpi` dots per inch.
-  SIZE SizeAround(const forms::Size& inside, UINT dpi) const;
-  /// Returns the size that the window needs at `dpi` dots per inch to show as much of the page as now.
-  SIZE ScaledSize(UINT dpi);
-  /// Gives the window the size that its layout needs, or the screen's size if that is smaller, and centres
-  /// the window on its owner.
-  void FitScreen(HWND owner);
-  /// Places the controls. The window gets scroll bars if the page is larger.
-  void Arrange();
-  void SetScrollBar(int bar, int needed, int room);
-  void Scroll(int bar, int by);
-  void ScrollTo(int bar, WORD request);
-  void ShowFocus(const ControlView& view);
   void Erase(HDC context) const;
   LRESULT ColorOf(HDC context, HWND control) const;
 
@@ -72,13 +55,10 @@ class FormWindow {
   Post post_;
   HWND window_ = nullptr;
   Annotations annotations_;
-  std::unique_ptr<Fonts> fonts_;
   std::unique_ptr<ControlViews> views_;
+  std::unique_ptr<ScrolledPage> page_;
   std::optional<DisabledWindows> disabledWindows_;
-  forms::Size least_;         ///< the minimum size of the layout, with its margins
   HWND lastFocus_ = nullptr;  ///< the last window with the focus, stored while another window is active
-  /// True while Arrange works, because scroll bars that appear or disappear change the client area.
-  bool isArranging_ = false;
 };
 
 }  // namespace plotsmith::windows
