@@ -111,9 +111,13 @@ $output" "$name.js" ;;
   esac
 }
 
-# Keeps Wine's server alive between programs, for scripts that start many programs. On a busy machine, a server that is
-# ending can make the next program fail.
-keep_server() { wineserver -p; }
+# Keeps Wine's server and its desktop alive between programs, for scripts that start many programs. A server that is
+# ending can make the next program fail, and so can the desktop, which ends a second after its last program.
+keep_server() {
+  wineserver -p
+  echo 'WScript.Sleep(3600000);' >"$work/sleep.js"
+  wine "$cscript" //nologo "$(windows_path "$work/sleep.js")" >/dev/null 2>&1 &
+}
 
 finish() {
   wineserver -k || true

@@ -1,9 +1,11 @@
 // Runs an operation of the component on a workbook that is open in the test's Excel:
 //   operate.js refresh BOOK OUTPUT JOURNAL
 //   operate.js table BOOK OUTPUT JOURNAL TABLE
-// Prints the number of calls to the host, the number of them without a definite kind, and the texts of message boxes.
+// Prints "started", the number of calls to the host, the number of them without a definite kind, and the texts of
+// message boxes.
 // operate.vbs has the operation with array arguments, which JScript can't make.
 // An error is printed, because Wine's cscript ends without a word on errors that nobody catches.
+WScript.Echo("started");
 var given = WScript.Arguments;
 try {
   var boxes = new ActiveXObject("PlotsmithTest.Boxes");

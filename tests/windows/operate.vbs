@@ -3,6 +3,7 @@
 ' The output is the same as that of operate.js.
 Option Explicit
 Dim given, boxes, excel, controller, calls, unsure
+WScript.Echo "started"
 Set given = WScript.Arguments
 Set boxes = CreateObject("PlotsmithTest.Boxes")
 Set excel = CreateObject("PlotsmithTestHost.Application")

@@ -14,7 +14,14 @@ cp examples/*.xlsx "$work/books"
 # Compares the component's messages in the command with the texts of message boxes, which write a line end as "\r\n".
 messages_differ() {
   grep -v '^plotsmith: ' "$work/said.txt" | tr -d '\r' >"$work/said-by-component.txt" || true
-  sed -e 1d -e '/^$/d' -e 's/ \[OK\]\( of Please Wait\)*:/:/' -e 's/\\r\\n/\n/g' "$work/printed.txt" | diff "$work/said-by-component.txt" -
+  sed -e 1,2d -e '/^$/d' -e 's/ \[OK\]\( of Please Wait\)*:/:/' -e 's/\\r\\n/\n/g' "$work/printed.txt" | diff "$work/said-by-component.txt" -
+}
+
+# Runs the script of one operation, with the variables of `same`.
+operate() {
+  run_script "$(windows_path "tests/windows/$script")" "$operation" "$(windows_path "$book")" \
+    "$(windows_path "$work/windows")\\book.xlsx" "$(windows_path "$work/windows")\\journal.txt" "$table" "$old" "$new" \
+    >"$work/printed.txt"
 }
 
 # Compares one operation on both hosts: CASE OPERATION SCRIPT BOOK [TABLE [OLD NEW]]
@@ -35,9 +42,9 @@ same() {
   fi
   old=${6:-} new=${7:-}
   [ "$operation" != rename ] || old=${3%=*} new=${3#*=}
-  run_script "$(windows_path "tests/windows/$script")" "$operation" "$(windows_path "$book")" \
-    "$(windows_path "$work/windows")\\book.xlsx" "$(windows_path "$work/windows")\\journal.txt" "$table" "$old" "$new" \
-    >"$work/printed.txt"
+  operate
+  # In one of several hundred runs, Wine ends before it has started the script.
+  grep -q '^started$' "$work/printed.txt" || operate
   if [ ! -f "$work/windows/journal.txt" ]; then
     fails "printed: $(head -n 3 "$work/printed.txt") Wine: $(tail -n 3 "$work/wine.txt")" "$case: no journal"
   elif ! difference=$(diff "$work/linux/journal.txt" "$work/windows/journal.txt" 2>&1); then
@@ -45,7 +52,7 @@ same() {
   elif ! difference=$(cmp "$work/linux/book.xlsx" "$work/windows/book.xlsx" 2>&1); then
     fails "$difference" "$case: file"
   elif ! grep -q '^calls [0-9]*, unsure 0$' "$work/printed.txt"; then
-    fails "$(head -n 1 "$work/printed.txt")" "$case: kinds of calls"
+    fails "$(sed -n 2p "$work/printed.txt")" "$case: kinds of calls"
   elif ! difference=$(messages_differ); then
     fails "$difference" "$case: messages"
   else

@@ -6,6 +6,7 @@ cd "$(dirname "$0")/../.."
 orders=examples/data/orders.xlsx
 
 new_prefix
+keep_server
 register "$windows/Plotsmith.dll" "$windows/PlotsmithTestHost.dll" "$windows/PlotsmithTestBoxes.dll"
 
 timeout 1800 wine "$windows/plotsmith_view_tests.exe" >"$work/tests.txt" 2>/dev/null || fails "exit code $?" "the dialogs"
