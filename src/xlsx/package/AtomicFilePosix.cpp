@@ -12,6 +12,8 @@
 namespace plotsmith::xlsx {
 namespace {
 
+namespace fs = std::filesystem;
+
 [[noreturn]] void Fail(const std::string& path) {
   throw PackageError("can't write " + path + ": " + runtime::SystemErrorText(errno));
 }
@@ -27,8 +29,21 @@ int OpenNameless(const std::string& folder) {
   return open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
 }
 
+/// Returns the file to which a path leads through links. It needn't exist. If there is no such file because
+/// of an error, returns the path itself.
+std::string TargetOf(const std::string& path) {
+  std::error_code error, missing;
+  fs::path target = fs::weakly_canonical(path, error);
+  // The last link may lead to a file that doesn't exist yet.
+  while (!error && fs::is_symlink(target, missing)) {
+    const fs::path link = fs::read_symlink(target, error);
+    if (!error) target = fs::weakly_canonical(target.parent_path() / link, error);
+  }
+  return error ? path : target.string();
+}
+
 std::string FolderOf(const std::string& path) {
-  const auto folder = std::filesystem::path(path).parent_path();
+  const auto folder = fs::path(path).parent_path();
   return folder.empty() ? "." : folder.string();
 }
 
@@ -66,13 +81,13 @@ mode_t NewFileMode() {
 }  // namespace
 
 AtomicFile::AtomicFile(const std::string& path) {
-  std::error_code ignored;
-  const auto target = std::filesystem::weakly_canonical(path, ignored);
-  path_ = ignored ? path : target.string();
+  path_ = TargetOf(path);
   struct stat old {};
   if (stat(path_.c_str(), &old) == 0) {
     if (!S_ISREG(old.st_mode)) throw PackageError("can't write " + path + ": it is not a regular file");
     if (access(path_.c_str(), W_OK) != 0) Fail(path);
+  } else if (errno != ENOENT) {
+    Fail(path);
   }
   file_ = OpenNameless(FolderOf(path_));
   if (file_ >= 0) return;

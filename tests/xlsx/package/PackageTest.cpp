@@ -294,11 +294,18 @@ TEST_F(PackageFileTest, TheFileIsReplacedCompletelyOrNotAtAll) {
   ASSERT_EQ(stat((folder_ / "new.xlsx").c_str(), &status), 0);
   EXPECT_EQ(status.st_mode & 07777, 0640u);
   std::filesystem::remove(folder_ / "new.xlsx");
+  symlink("linked.xlsx", (folder_ / "first.xlsx").c_str());
+  symlink("first.xlsx", (folder_ / "second.xlsx").c_str());
+  Package::Open(path).Save(folder_ / "second.xlsx");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder_ / "first.xlsx"));
+  EXPECT_TRUE(std::filesystem::remove(folder_ / "linked.xlsx")) << "a link can lead to a new file";
 
   Package package = Package::Open(path);
   mkfifo((folder_ / "pipe").c_str(), 0600);
+  symlink("circle", (folder_ / "circle").c_str());
   for (const auto& [bad, reason] : {std::pair{folder_ / "no/such/folder/x.xlsx", "No such file or directory"},
                                     {folder_.Path().string(), "it is not a regular file"},
+                                    {folder_ / "circle", "Too many levels of symbolic links"},
                                     {folder_ / "pipe", "it is not a regular file"}}) {
     EXPECT_EQ(test::ErrorTextOf<PackageError>([&, to = bad] { package.Save(to); }),
               "can't write " + bad + ": " + reason);
