@@ -105,6 +105,7 @@ TEST_F(OutputTest, UnsuitableExtensionsAreRefusedBeforeTheWork) {
       {macros, "out.xlsx", hasMacros + ".xlsx" + hold},
       {macros, "out.XLTX", hasMacros + ".xltx" + hold},
       {plain, "out.ods", "a workbook can't be written as .ods, only as .xlsx, .xlsm, .xltx or .xltm"},
+      {plain, "out.txt", "a workbook can't be written as .txt, only as .xlsx, .xlsm, .xltx or .xltm"},
       {plain, "out.XLS", "a workbook can't be written as .xls, only as .xlsx, .xlsm, .xltx or .xltm"}};
   for (const auto& refused : cases) {
     const S out = folder_ / refused.out;

@@ -30,8 +30,10 @@ constexpr std::array<std::string_view, 3> kMacroTypes = {"application/vnd.ms-off
                                                          "application/vnd.ms-excel.macrosheet+xml",
                                                          "application/vnd.ms-excel.intlmacrosheet+xml"};
 
-constexpr std::array<std::string_view, 9> kForeignExtensions = {".xls", ".xlt",     ".xlsb", ".ods", ".fods",
-                                                                ".csv", ".numbers", ".html", ".pdf"};
+/// The other formats that Excel, LibreOffice and Numbers write.
+constexpr std::array<std::string_view, 20> kForeignExtensions = {
+    ".xls", ".xlt", ".xlsb", ".xlw", ".ods", ".ots", ".fods", ".csv", ".txt", ".tsv",
+    ".prn", ".dif", ".slk",  ".dbf", ".xml", ".htm", ".html", ".pdf", ".xps", ".numbers"};
 
 /// A kind of text file and the text by which its beginning is recognized.
 struct TextKind {
