@@ -9,6 +9,7 @@
 #include "cli/render/ChartsToDraw.h"
 #include "cli/render/DrawnCharts.h"
 #include "cli/render/DrawnSheet.h"
+#include "xlsx/Sheet.h"
 
 namespace plotsmith::cli {
 
