@@ -241,5 +241,27 @@ TEST_F(PieLabelsTest, LabelsOutsideAreAsNearAsTheyCanBe) {
   }
 }
 
+TEST_F(PieLabelsTest, TheCircleLeavesRoomForTheLabelsBesideIt) {
+  for (int size = 600; size <= 1600; size += 100) {
+    const S font = "<c:txPr><a:bodyPr/><a:p><a:pPr><a:defRPr sz=\"" + std::to_string(size) +
+                   "\"/></a:pPr></a:p></c:txPr>";
+    for (std::size_t count = 3; count <= 8; ++count) {
+      Numbers values;
+      for (std::size_t i = 1; i <= count; ++i) values.push_back(1234567.89 * static_cast<double>(i));
+      const Drawing drawing =
+          Draw(PlotXml("<c:pieChart>" +
+                           SeriesXml(0, values,
+                                     "<c:dLbls>" + LookXml(SolidXml("FFFFCC")) + font +
+                                         "<c:dLblPos val=\"bestFit\"/><c:showVal val=\"1\"/></c:dLbls>") +
+                           "</c:pieChart>",
+                       "<c:legend><c:legendPos val=\"r\"/></c:legend>"));
+      const Rect room = BoxOf(drawing, Role::kPlotArea);
+      for (const Rect& frame : FramesOf(drawing)) {
+        EXPECT_TRUE(frame.left >= room.left && frame.Right() <= room.Right()) << size << ' ' << count;
+      }
+    }
+  }
+}
+
 }  // namespace
 }  // namespace plotsmith

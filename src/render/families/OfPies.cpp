@@ -106,8 +106,7 @@ class OfPiePainter {
     double between = 0;
     double radius = RadiusIn(room, between);
     const double whole = radius;
-    constexpr int kPasses = 2;  // Labels that fit into the slices of a large circle may not fit later.
-    for (int pass = 0; pass < kPasses && !plot_.chart.layout; ++pass) {
+    for (int pass = 0; pass < kLabelPasses && !plot_.chart.layout; ++pass) {
       room = WithoutLabels(radius, between);
       radius = std::min(std::max(RadiusIn(room, between), whole * kLeastRadius), radius);
     }

@@ -31,13 +31,13 @@ void DrawPie(Plot& plot, const GroupModel& group) {
   const SeriesModel& series = group.series.front();  // A pie shows one series.
   const std::vector<DrawnPoint> slices = SlicesOf(group, series);
   const double explosion = FarthestExplosion(slices);
-  double radius = free / (1 + explosion);
-  if (!plot.chart.layout) {
+  const double most = free / (1 + explosion);
+  double radius = most;
+  for (int pass = 0; pass < kLabelPasses && !plot.chart.layout; ++pass) {
     const LabelRoom room = RoomForLabels(plot, slices, radius);
     const double across = plot.area.width / 2 - std::max(room.left, room.right),
                  down = plot.area.height / 2 - room.height;
-    radius = std::max(std::min(across, down) / (1 + explosion), radius * kLeastRadius);
-    radius = std::min(radius, free / (1 + explosion));
+    radius = std::min(std::max(std::min(across, down) / (1 + explosion), most * kLeastRadius), radius);
   }
   DrawSlices(plot, slices, {center, radius});
 }

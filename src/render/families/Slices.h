@@ -9,6 +9,9 @@ namespace plotsmith::render {
 
 /// The minimum radius to which labels outside of a pie can reduce it, as a share of the full radius.
 inline constexpr double kLeastRadius = 0.3;
+/// The number of times that a circle is made smaller for the labels beside it. Labels that fit into the
+/// slices of a large circle may not fit into those of a smaller one, and then they need room too.
+inline constexpr int kLabelPasses = 2;
 
 /// Returns the largest distance by which one of the slices is moved outwards, in radii.
 double FarthestExplosion(const std::vector<DrawnPoint>& slices);
