@@ -13,7 +13,7 @@ export LC_ALL=C.UTF-8
 
 # Use one core for the programs and for Wine's server. They wait for each other in turn, so a second core doesn't help,
 # but waking it up can take most of the time: on two idle cores the dialogs' tests took five times as long.
-taskset -cp "$(taskset -cp $$ | sed 's/.*: //; s/[-,].*//')" $$ >/dev/null
+taskset -cp "$(taskset -cp $$ | sed 's/.*: //; s/[-,].*//')" $$ >/dev/null 2>&1 || true
 
 # The full path of the script host. Wine would start a bare name through one more program.
 cscript='C:\windows\system32\cscript.exe'
