@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "cli/Session.h"
+#include "cli/check/TableCheck.h"
 #include "common/Documents.h"
 #include "common/RunVariables.h"
 #include "runtime/Strings.h"
@@ -24,8 +25,7 @@ void Add(Words& words, const std::string& word) {
 
 Words Tables() {
   Words words;
-  for (const auto& document : *colTables)
-    Add(words, GetAttributeText(document.selectSingleNode("table"), "id"));
+  for (const std::string& id : LoadedTableIds()) Add(words, id);
   return words;
 }
 

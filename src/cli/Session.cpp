@@ -50,10 +50,8 @@ std::string LockOf(const fs::path& book) {
 
 /// Returns true if the workbook has a table with exactly that id, or a chart that uses it.
 bool IsTableKnown(const std::string& id) {
-  const auto isTable = [&](const dom::IXMLDOMDocument2& document) {
-    return GetAttributeText(document.selectSingleNode("table"), "id") == id;
-  };
-  if (std::any_of(colTables->begin(), colTables->end(), isTable)) return true;
+  const auto tables = LoadedTableIds();
+  if (std::find(tables.begin(), tables.end(), id) != tables.end()) return true;
   return std::any_of(colCharts->begin(), colCharts->end(), [&](const dom::IXMLDOMDocument2& document) {
     const auto chart = document.selectSingleNode("chart");
     return GetAttributeText(chart, "table-id") == id ||

@@ -77,9 +77,7 @@ TEST_F(BatchTest, OptionsApplyToEachWorkbook) {
   const S both = Write(two, "both.xlsx"), one = Write("one.xlsx");
   const CommandResult table = RunCommand({"refresh", both, one, "--table", "Data2", "--journal"});
   EXPECT_EQ(table.code, 2) << "the second workbook has no such table";
-  EXPECT_EQ(
-      Plain(table.err),
-      "one.xlsx: plotsmith: \"one.xlsx\" has no table 'Data2'; there is Data1.\n");
+  EXPECT_EQ(Plain(table.err), "one.xlsx: plotsmith: \"one.xlsx\" has no table 'Data2'; there is Data1.\n");
   EXPECT_EQ(RunCommand({"cells", both, "VEX_ChartData!A1:A4"}).out, "VEX_Chart2\nVEX_Chart2\nVEX_Chart2\n\n");
   std::istringstream journal(table.out);
   bool ofSecond = false;

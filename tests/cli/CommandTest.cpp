@@ -340,8 +340,7 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   // This renames a swap, a chain and a single column at once.
   CommandResult result = RunCommand(
       {"rename-columns", book, "--table", "Data1", "Region=Product", "Product=Region", "Amount=Units"});
-  const S waiting =
-      "plotsmith: the table 'Data1' has no column 'Units' yet, so its charts weren't drawn.\n";
+  const S waiting = "plotsmith: the table 'Data1' has no column 'Units' yet, so its charts weren't drawn.\n";
   EXPECT_EQ(result.err, waiting);
   EXPECT_EQ(result.code, 1);
   EXPECT_NE(
@@ -369,9 +368,11 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   EXPECT_EQ(result.err, waiting) << "it is already renamed";
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
   EXPECT_EQ(result.code, 1);
-  EXPECT_EQ(result.err,
-            "plotsmith: no chart of the table 'Data1' has a column 'Amuont'; there are Product, Region and Units.\n"
-            "plotsmith: no chart of the table 'Data1' has a column 'label'; there are Product, Region and Units.\n");
+  EXPECT_EQ(
+      result.err,
+      "plotsmith: no chart of the table 'Data1' has a column 'Amuont'; there are Product, Region and Units.\n"
+      "plotsmith: no chart of the table 'Data1' has a column 'label'; there are Product, Region and "
+      "Units.\n");
   EXPECT_EQ(BytesOf(book), before);
   for (const auto& [arguments, said] : std::vector<std::pair<std::vector<S>, S>>{
            {{"--table", "Data1", "Region"}, "'Region' isn't a renaming"},

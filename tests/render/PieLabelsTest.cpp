@@ -256,7 +256,9 @@ TEST_F(PieLabelsTest, TheCircleLeavesRoomForTheLabelsBesideIt) {
                            "</c:pieChart>",
                        "<c:legend><c:legendPos val=\"r\"/></c:legend>"));
       const Rect room = BoxOf(drawing, Role::kPlotArea);
-      for (const Rect& frame : FramesOf(drawing)) {
+      const auto frames = FramesOf(drawing);
+      EXPECT_EQ(frames.size(), count) << size;
+      for (const Rect& frame : frames) {
         EXPECT_TRUE(frame.left >= room.left && frame.Right() <= room.Right()) << size << ' ' << count;
       }
     }

@@ -29,8 +29,8 @@ int OpenNameless(const std::string& folder) {
   return open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, 0600);
 }
 
-/// Returns the file to which a path leads through links. It needn't exist. If there is no such file because
-/// of an error, returns the path itself.
+/// Returns the file to which a path leads through links. The file needn't exist. If the links can't be
+/// followed, returns the path itself.
 std::string TargetOf(const std::string& path) {
   std::error_code error, missing;
   fs::path target = fs::weakly_canonical(path, error);

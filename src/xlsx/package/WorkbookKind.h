@@ -19,7 +19,8 @@ struct WorkbookKind {
 const WorkbookKind* KindOfName(std::string_view path);
 /// Returns true if a part with the content type contains macros.
 bool HoldsMacros(std::string_view contentType);
-/// Returns true if the extension belongs to a spreadsheet format that Plotsmith doesn't write.
+/// Returns true if the extension belongs to another format that spreadsheet programs write, such as ".ods",
+/// ".txt" or ".pdf".
 bool IsForeignName(std::string_view path);
 /// Returns the extension with its dot, in lower case; empty if there is none.
 std::string ExtensionOf(std::string_view path);
