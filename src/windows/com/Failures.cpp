@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string>
 #include <utility>
 
+#include "runtime/SystemErrors.h"
 #include "windows/com/Texts.h"
 
 namespace plotsmith::com {
@@ -55,17 +57,6 @@ int NumberOf(HRESULT result) {
   return known == kNumbers.end() ? 0 : known->number;
 }
 
-/// Returns Windows' message for a result; empty if there is none.
-std::string SystemText(HRESULT result) {
-  std::array<wchar_t, 512> buffer{};
-  const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                                      static_cast<DWORD>(result), 0, buffer.data(),
-                                      static_cast<DWORD>(buffer.size()), nullptr);
-  std::string text = Utf8(buffer.data(), length);
-  while (!text.empty() && (text.back() == '\n' || text.back() == '\r' || text.back() == ' ')) text.pop_back();
-  return text;
-}
-
 RuntimeError WithText(int number, const std::string& text, const std::string& source) {
   const RuntimeError standard(number);
   return RuntimeError(number, text.empty() ? standard.Description() : text,
@@ -79,7 +70,7 @@ std::string Taken(BSTR& text) { return Utf8(OwnedBstr::Attach(std::exchange(text
 
 RuntimeError ErrorOf(HRESULT result) {
   if (const int number = NumberOf(result)) return RuntimeError(number);
-  const std::string text = SystemText(result);
+  const std::string text = runtime::WindowsErrorText(static_cast<std::uint32_t>(result));
   const std::string automation = RuntimeError(error::kAutomation).Description();
   return RuntimeError(result, text.empty() ? automation : automation + "\r\n" + text);
 }
@@ -94,20 +85,6 @@ RuntimeError ErrorOf(EXCEPINFO& exception) {
   const RuntimeError plain = ErrorOf(FAILED(exception.scode) ? exception.scode : E_FAIL);
   return RuntimeError(plain.Number(), text.empty() ? plain.Description() : text,
                       source.empty() ? plain.Source() : source);
-}
-
-HRESULT ResultOf(const RuntimeError& failure) {
-  const int number = failure.Number();
-  return number > 0 && number <= 0xFFFF ? kLanguage | number : number < 0 ? number : E_FAIL;
-}
-
-HRESULT FillException(const RuntimeError& failure, EXCEPINFO* exception) {
-  if (exception == nullptr) return DISP_E_EXCEPTION;
-  *exception = {};
-  exception->scode = ResultOf(failure);
-  exception->bstrDescription = NewBstr(failure.Description());
-  exception->bstrSource = NewBstr(failure.Source());
-  return DISP_E_EXCEPTION;
 }
 
 }  // namespace plotsmith::com

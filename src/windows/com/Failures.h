@@ -4,7 +4,7 @@
 #include "windows/com/Windows.h"
 
 /// @file
-/// Conversions between run-time errors and Automation's results.
+/// Conversions of Automation's results to run-time errors.
 namespace plotsmith::com {
 
 /// Returns the run-time error for a result. Results of Visual Basic's facility (0x800Annnn) give the error
@@ -14,11 +14,5 @@ runtime::RuntimeError ErrorOf(HRESULT result);
 /// Returns the run-time error for a call that failed with DISP_E_EXCEPTION. The texts in `exception` are
 /// freed.
 runtime::RuntimeError ErrorOf(EXCEPINFO& exception);
-
-/// Returns the result with the number of an error.
-HRESULT ResultOf(const runtime::RuntimeError& failure);
-/// Describes an error to the caller of IDispatch::Invoke and returns DISP_E_EXCEPTION, which Invoke has to
-/// return. `exception` may be null.
-HRESULT FillException(const runtime::RuntimeError& failure, EXCEPINFO* exception);
 
 }  // namespace plotsmith::com

@@ -5,6 +5,7 @@
 #include <utility>
 #include <windows.h>
 
+#include "runtime/SystemErrors.h"
 #include "runtime/Utf8Path.h"
 #include "xlsx/package/AtomicFile.h"
 #include "xlsx/package/PackageError.h"
@@ -29,14 +30,11 @@ Handle Open(const std::filesystem::path& path, DWORD access, DWORD disposition) 
   return Handle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
 }
 
-/// Returns Windows' message for an error, without the full stop and the line end.
+/// Returns Windows' message for an error, without the full stop.
 std::string TextOf(DWORD error) {
-  wchar_t text[512];
-  DWORD size = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
-                              text, static_cast<DWORD>(std::size(text)), nullptr);
-  while (size > 0 && (text[size - 1] == L'.' || text[size - 1] <= L' ')) --size;
-  if (size == 0) return "error " + std::to_string(error);
-  return Utf8Of(std::wstring(text, size));
+  std::string text = runtime::WindowsErrorText(error);
+  while (text.ends_with('.')) text.pop_back();
+  return text.empty() ? "error " + std::to_string(error) : text;
 }
 
 std::string ReasonOf(DWORD error) {

@@ -16,6 +16,7 @@
 #include "tests/windows/boxes/MonkeyHands.h"
 #include "tests/windows/boxes/PressingHand.h"
 #include "tests/windows/boxes/ScriptedHands.h"
+#include "tests/windows/support/Exceptions.h"
 #include "windows/com/Failures.h"
 #include "windows/com/Texts.h"
 #include "windows/com/Values.h"
@@ -308,7 +309,7 @@ HRESULT Boxes::Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS* sent, VARIA
     if (result != nullptr) *result = answer.Detach();
     return S_OK;
   } catch (...) {
-    return com::FillException(runtime::CurrentError(), exception);
+    return FillException(runtime::CurrentError(), exception);
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include "tests/windows/contract/FakeDispatch.h"
 #include "tests/windows/contract/PortContract.h"
+#include "tests/windows/support/Exceptions.h"
 #include "windows/com/Calls.h"
 #include "windows/com/Failures.h"
 #include "windows/com/Texts.h"
@@ -68,7 +69,7 @@ TEST(CallsTest, ExceptionsKeepNumberAndText) {
 TEST(CallsTest, ErrorsSurviveBothConversions) {
   for (const int number : {5, 9, 13, 91, 1004, 65535, static_cast<int>(E_UNEXPECTED)}) {
     EXCEPINFO exception{};
-    EXPECT_EQ(com::FillException(runtime::RuntimeError(number, "words", "source"), &exception),
+    EXPECT_EQ(test::FillException(runtime::RuntimeError(number, "words", "source"), &exception),
               DISP_E_EXCEPTION);
     const runtime::RuntimeError back = com::ErrorOf(exception);
     EXPECT_EQ(back.Number(), number);

@@ -3,6 +3,7 @@
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "tests/windows/host/HostMembers.h"
+#include "tests/windows/support/Exceptions.h"
 #include "windows/com/Failures.h"
 
 namespace plotsmith::automation {
@@ -63,7 +64,7 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* sent, 
   } catch (HRESULT result) {
     return result;
   } catch (...) {
-    return com::FillException(runtime::CurrentError(), exception);
+    return test::FillException(runtime::CurrentError(), exception);
   }
 }
 
