@@ -10,6 +10,8 @@ namespace plotsmith::ascii {
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 /// Converts A to Z to lower case; returns other characters unchanged.
 constexpr char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+/// Converts a to z to upper case; returns other characters unchanged.
+constexpr char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 /// Returns a text with A to Z in lower case.
 inline std::string Lower(std::string_view text) {
   std::string lower(text);

@@ -18,9 +18,15 @@ bool HasAsciiLower(std::string_view text) {
   return std::any_of(text.begin(), text.end(), [](char c) { return c >= 'a' && c <= 'z'; });
 }
 
-/// Returns true for letters that the language doesn't convert to upper case, although Unicode does: sharp s,
-/// dotless i, long s.
-bool KeepsItsCase(char32_t c) { return c == 0xDF || c == 0x131 || c == 0x17F; }
+/// Returns the upper case of a character. The language keeps a letter if the lower case of its upper case
+/// would be another letter, such as the dotless i, the final sigma and the micro sign. It also keeps the
+/// sharp s.
+char32_t UpperCase(char32_t c) {
+  const utf8proc_int32_t upper = utf8proc_toupper(static_cast<utf8proc_int32_t>(c));
+  constexpr char32_t kSharpS = 0xDF;
+  const bool returns = static_cast<char32_t>(utf8proc_tolower(upper)) == c;
+  return returns && c != kSharpS ? static_cast<char32_t>(upper) : c;
+}
 
 }  // namespace
 
@@ -80,18 +86,11 @@ std::string_view UCase(std::string_view text, std::string& scratch) {
   if (IsAscii(text)) {
     if (!HasAsciiLower(text)) return text;
     scratch.assign(text);
-    for (char& c : scratch) {
-      if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-    }
+    for (char& c : scratch) c = ascii::Upper(c);
     return scratch;
   }
   scratch.clear();
-  for (std::size_t i = 0; i < text.size();) {
-    const char32_t c = NextCharacter(text, i);
-    const char32_t upper =
-        KeepsItsCase(c) ? c : static_cast<char32_t>(utf8proc_toupper(static_cast<utf8proc_int32_t>(c)));
-    AppendUtf8(scratch, upper);
-  }
+  for (std::size_t i = 0; i < text.size();) AppendUtf8(scratch, UpperCase(NextCharacter(text, i)));
   return scratch;
 }
 

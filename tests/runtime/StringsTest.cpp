@@ -19,14 +19,14 @@ TEST(StringsTest, CountInUtf16Units) {
 }
 
 TEST(StringsTest, UpperCase) {
-  EXPECT_EQ(UCase("straße äöü ÿ ſı"), "STRAßE ÄÖÜ Ÿ ſı");
+  EXPECT_EQ(UCase("straße äöü ÿ ſı µm μ οδος ǆǅ ÅΩ"), "STRAßE ÄÖÜ Ÿ ſı µM Μ ΟΔΟς Ǆǅ ÅΩ");
   std::string scratch;
   const std::string upper = "ALREADY 1";
   EXPECT_EQ(UCase(upper, scratch).data(), upper.data()) << "nothing to do, nothing copied";
   EXPECT_TRUE(EqualsIgnoreCase("Größe", "GRÖßE"));
   EXPECT_TRUE(EqualsIgnoreCase("", ""));
   const std::pair<const char*, const char*> different[] = {
-      {"a", "ab"}, {"ab", ""}, {"a", "é"}, {"ſ", "S"}, {"größe", "GRößi"}, {"ı", "I"}, {"[", "{"}};
+      {"a", "ab"}, {"ab", ""}, {"a", "é"}, {"ſ", "S"}, {"größe", "GRößi"}, {"ı", "I"}, {"µ", "μ"}, {"[", "{"}};
   for (const auto& [a, b] : different) {
     EXPECT_FALSE(EqualsIgnoreCase(a, b)) << a << b;
     EXPECT_FALSE(EqualsIgnoreCase(b, a)) << b << a;
