@@ -50,8 +50,10 @@ bool CreateSheet(const std::string& sName, std::int32_t lPosition, std::int32_t 
       },
       [&](const runtime::RuntimeError&) {
         bCreated = false;
-        if (!oSheet) return;
-        IgnoreErrors([] { oApplication->SetDisplayAlerts(false); }, [&] { oSheet->Delete(); },
+        const auto deleteSheet = [&] {
+          if (oSheet) oSheet->Delete();
+        };
+        IgnoreErrors([] { oApplication->SetDisplayAlerts(false); }, deleteSheet,
                      [] { oApplication->SetDisplayAlerts(true); });
       });
   return bCreated;

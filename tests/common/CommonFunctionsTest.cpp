@@ -66,6 +66,14 @@ TEST_F(CommonFunctionsTest, SheetsByName) {
   SaveAndReopen();
   EXPECT_EQ(oWorkbook->Sheets()->Item(6)->Name(), "Last");
   EXPECT_EQ(oWorkbook->ActiveSheet()->Name(), "First");
+
+  test::PlainBook locked = test::SalesBook({});
+  locked.workbookExtra = "<workbookProtection lockStructure=\"1\"/>";
+  Open(locked);
+  journal_.clear();
+  EXPECT_FALSE(CreateSheet("More", 1, -1));
+  EXPECT_EQ(journal_,
+            (std::vector<S>{"Application.DisplayAlerts = False", "Application.DisplayAlerts = True"}));
 }
 
 TEST_F(CommonFunctionsTest, CellsAsEachKindOfValue) {
