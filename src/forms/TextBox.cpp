@@ -7,16 +7,23 @@
 namespace plotsmith::forms {
 
 void TextBox::SetText(std::string_view value) {
-  text_ = value;
+  givenLength_ = runtime::Len(WithLineEnds(value, "\r\n"));
+  Store(value);
+}
+
+void TextBox::Store(std::string_view text) {
+  text_ = text;
   Changed();
 }
+
+std::size_t TextBox::Limit() const { return maxLength_ == 0 ? 0 : std::max(maxLength_, givenLength_); }
 
 std::string TextBox::ObstacleTo(std::string_view text) const {
   const std::string typed = WithLineEnds(text, "\r\n");
   if (HasControlCharacters(text)) return "accepts no control characters";
   if (!multiLine_ && typed.find('\n') != std::string::npos) return "accepts only one line";
-  if (maxLength_ > 0 && runtime::Len(typed) > maxLength_) {
-    return "takes " + std::to_string(maxLength_) + " characters";
+  if (Limit() > 0 && runtime::Len(typed) > Limit()) {
+    return "takes at most " + std::to_string(Limit()) + " characters";
   }
   return {};
 }
@@ -24,7 +31,7 @@ std::string TextBox::ObstacleTo(std::string_view text) const {
 bool TextBox::UserType(std::string_view text) {
   const std::string typed = WithLineEnds(text, "\r\n");
   if (!ObstacleTo(text).empty() || !Reach()) return false;
-  SetText(typed);
+  Store(typed);
   return true;
 }
 

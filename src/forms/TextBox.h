@@ -22,7 +22,7 @@ class TextBox : public FontControl {
 
   /// The text.
   const std::string& Text() const { return text_; }
-  /// Sets the text. Raises no event.
+  /// Sets the text, which may be longer than MaxLength. Raises no event.
   void SetText(std::string_view value);
 
   /// The maximum number of UTF-16 units that the user can type; 0 means no limit.
@@ -30,6 +30,9 @@ class TextBox : public FontControl {
   std::size_t MaxLength() const { return maxLength_; }
   void SetMaxLength(std::size_t value) { maxLength_ = value; }
   ///@}
+  /// The maximum number of UTF-16 units that the box can hold now; 0 means no limit. It is MaxLength, or the
+  /// length of a longer text that SetText has set, so that the user can edit such a text.
+  std::size_t Limit() const;
 
   /// Whether the text can have several lines. Enter then ends a line.
   ///@{
@@ -54,8 +57,11 @@ class TextBox : public FontControl {
   const char* KindText() const override { return "text"; }
 
  private:
+  void Store(std::string_view text);
+
   std::string text_;
   std::size_t maxLength_ = 0;
+  std::size_t givenLength_ = 0;  ///< The length of the text that SetText has set.
   bool multiLine_ = false;
   forms::Alignment alignment_ = Alignment::kLeft;
 };

@@ -178,6 +178,17 @@ TEST(ModelTest, UserActionsMoveTheFocusAndRaiseEvents) {
          EXPECT_FALSE(form.grdRows.UserDoubleClick(1));
        },
        {}},
+      {"a text that is longer than its box allows",
+       [](auto& form) {
+         form.txtTitle.SetText("12345678");
+         EXPECT_FALSE(form.txtTitle.UserType("123456789"));
+         EXPECT_TRUE(form.txtTitle.UserType("1234567"));
+         EXPECT_TRUE(form.txtTitle.UserType("12345678"));
+         EXPECT_EQ(form.txtTitle.Limit(), 8u);
+         form.txtTitle.SetText("1");
+         EXPECT_EQ(form.txtTitle.Limit(), 5u);
+       },
+       {"txtTitle got-focus"}},
       {"controls that don't exist",
        [](auto& form) {
          EXPECT_FALSE(form.cboValues.UserChoose(3));

@@ -30,7 +30,6 @@ class LineView final : public ControlView {
  public:
   LineView(forms::TextBox& model, QWidget* parent, const Post& post)
       : ControlView(model, post), model_(model), edit_(new QLineEdit(parent)) {
-    if (model.MaxLength() > 0) edit_->setMaxLength(static_cast<int>(model.MaxLength()));
     QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this](const QString& text) {
       Report([this, text] { model_.UserType(TextOf(OneLine(text))); });
     });
@@ -42,6 +41,9 @@ class LineView final : public ControlView {
  protected:
   void Show() override {
     const QString text = TextOf(model_.Text());
+    // A change of the limit moves the cursor.
+    const auto limit = static_cast<int>(model_.Limit());
+    if (limit > 0 && edit_->maxLength() != limit) edit_->setMaxLength(limit);
     if (edit_->text() != text) {
       const int cursor = edit_->cursorPosition();
       edit_->setText(text);
@@ -88,7 +90,7 @@ class LinesView final : public ControlView {
  private:
   /// Returns the number of UTF-16 units beyond the limit. A line end counts as two units, as in the model.
   qsizetype TooMany() const {
-    const auto most = static_cast<qsizetype>(model_.MaxLength());
+    const auto most = static_cast<qsizetype>(model_.Limit());
     if (most == 0) return 0;
     const QString text = LinesIn(*edit_);
     return text.size() + text.count(QLatin1Char('\n')) - most;

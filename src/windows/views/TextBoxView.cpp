@@ -21,9 +21,7 @@ DWORD StyleOf(const forms::TextBox& model) {
 TextBoxView::TextBoxView(forms::TextBox& model, const Stage& stage)
     : ControlView(model, stage, {WC_EDITW, StyleOf(model) | WS_TABSTOP, WS_EX_CLIENTEDGE}),
       model_(model),
-      lines_(model.MultiLine() ? Lines::kSeveral : Lines::kOne) {
-  Send(EM_SETLIMITTEXT, model.MaxLength());  // 0 means the maximum
-}
+      lines_(model.MultiLine() ? Lines::kSeveral : Lines::kOne) {}
 
 forms::Size TextBoxView::LeastSize() const {
   return {WidthOf(kLeastCharacters), static_cast<int>(CharacterSize(Font()).cy) + Scaled(kTextMargin)};
@@ -40,6 +38,7 @@ void TextBoxView::OnCommand(WORD code) {
 bool TextBoxView::IsInTheMiddle() const { return GetFocus() == Window() && HasHalfCharacter(Window()); }
 
 void TextBoxView::Show() {
+  Send(EM_SETLIMITTEXT, model_.Limit());  // 0 means the maximum
   const std::wstring text = com::Wide(model_.Text());
   if (WindowText() == text) return;
   DWORD cursor = 0;

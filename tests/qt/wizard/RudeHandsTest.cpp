@@ -253,5 +253,41 @@ TEST_F(RudeHandsTest, BoxesAcceptAndShowTheInputThatFits) {
   }
 }
 
+TEST_F(RudeHandsTest, ATextLongerThanItsBoxAllowsIsShownAndCanBeEdited) {
+  const auto textBoxes = [] {
+    std::vector<forms::TextBox*> boxes;
+    for (forms::Control* const control : BoxesOf(*FrontPage())) {
+      if (auto* box = dynamic_cast<forms::TextBox*>(control)) boxes.push_back(box);
+    }
+    return boxes;
+  };
+  const auto textOf = [](const forms::TextBox& box) {
+    return Times(static_cast<int>(box.MaxLength()) / 4 + 9, box.MultiLine() ? "ab\r\n" : "abcd") + "z";
+  };
+  const test::Actions actions = {
+      {"set",
+       [&] {
+         for (forms::TextBox* const box : textBoxes()) box->SetText(textOf(*box));
+         FrontPage()->Update();
+       }},
+      {"shorten",
+       [&] {
+         EXPECT_EQ(test::DifferencesFromModel(*FrontPage()), "");
+         for (const forms::TextBox* const box : textBoxes()) {
+           QWidget& widget = *FrontPage()->WidgetOf(*box);
+           widget.setFocus(Qt::TabFocusReason);
+           QTest::keyClick(&widget, Qt::Key_End, box->MultiLine() ? Qt::ControlModifier : Qt::NoModifier);
+           QTest::keyClick(&widget, Qt::Key_Backspace);
+         }
+       }},
+      {"look", [&] {
+         for (const forms::TextBox* const box : textBoxes()) {
+           EXPECT_EQ(box->Text() + "z", textOf(*box)) << box->Name();
+         }
+         EXPECT_EQ(test::DifferencesFromModel(*FrontPage()), "");
+       }}};
+  for (const test::Way& way : test::kWays) RunUnsaved(way.lines + "do set; do shorten; do look; ", actions);
+}
+
 }  // namespace
 }  // namespace plotsmith

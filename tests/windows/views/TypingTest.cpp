@@ -71,5 +71,13 @@ TEST_F(TypingTest, ACharacterOfTwoUnitsIsKept) {
   }
 }
 
+TEST_F(TypingTest, ATextLongerThanItsBoxAllowsCanBeEdited) {
+  std::vector<S> log;
+  test::SmallForm form(log);
+  form.txtTitle.SetText("12345678");
+  EXPECT_EQ(Type(form, form.txtTitle, L"\b9x"), "91234567") << "typed at the beginning, where x is too much";
+  EXPECT_EQ(form.txtTitle.Text(), "91234567");
+}
+
 }  // namespace
 }  // namespace plotsmith
