@@ -1,6 +1,5 @@
 #include "cli/Failures.h"
 
-#include <CLI/CLI.hpp>
 #include <exception>
 
 #include "cli/check/Words.h"
@@ -15,8 +14,6 @@ int Guarded(std::ostream& err, const std::function<int()>& work) {
   };
   try {
     return work();
-  } catch (const CLI::ParseError& e) {
-    return fail(std::string(e.what()) + " (try plotsmith --help)", exit_code::kUsage);
   } catch (const CommandError& e) {
     return fail(e.what(), e.ExitCode());
   } catch (const xlsx::PackageError& e) {

@@ -1,6 +1,7 @@
 #include "cli/NumberOptions.h"
 
 #include <CLI/CLI.hpp>
+#include <optional>
 #include <utility>
 
 #include "cli/check/Words.h"
@@ -11,7 +12,9 @@ namespace plotsmith::cli {
 CLI::Option* DeclareNumber(CLI::App& app, const std::string& name, std::function<void(double)> store,
                            const std::string& description) {
   const auto parse = [name, store = std::move(store)](const std::string& text) {
-    const auto number = runtime::ParseNumber(text);
+    // ParseNumber also reads separators between thousands, so a decimal comma would be ignored.
+    const bool isPlain = text.find_first_not_of("+-.0123456789eE") == text.npos;
+    const auto number = isPlain ? runtime::ParseNumber(text) : std::nullopt;
     if (!number) throw CLI::ConversionError(name + " needs a number, not " + Quoted(text));
     store(*number);
   };

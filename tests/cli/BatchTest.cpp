@@ -112,7 +112,7 @@ TEST_F(BatchTest, ResultsAreWrittenIntoAFolderByName) {
       {{first, second, "-o", folder_ / "file"},
        "\"file\" isn't a folder; several workbooks can only be written into a folder."},
       {{first, second, "-o", folder_ / "nowhere"},
-       "\"nowhere\" isn't a folder; several workbooks can only be written into a folder."},
+       "there is no folder \"nowhere\"; several workbooks can only be written into a folder."},
       {{first, second, "-o", "-"},
        "only one workbook can be written to the standard output; several can be written into a folder."},
       {{second, first, "-o", folder_ / "one"},

@@ -171,6 +171,48 @@ TEST_F(CommandTest, WrongUsageHasExitCode2) {
             "wizard, rename-columns, check, tables, charts, definition, cells, format, save and help (try "
             "plotsmith --help)\n");
   EXPECT_EQ(RunCommand({"--help"}).code, 0);
+  const std::pair<std::vector<S>, S> misplaced[] = {
+      {{"refresh", "-dash.xlsx"}, "there is no option '-dash.xlsx' (try plotsmith refresh --help)"},
+      {{"--jornal", "refresh", book}, "there is no option '--jornal' (try plotsmith refresh --help)"},
+      {{"tables", book, "Data1", "[x]"},
+       "'Data1' and '[x]' are arguments too many (try plotsmith tables --help)"},
+      {{"tables", book, "Data1"}, "'Data1' is one argument too many (try plotsmith tables --help)"}};
+  for (const auto& [arguments, said] : misplaced) {
+    const CommandResult result = RunCommand(arguments);
+    EXPECT_EQ(result.code, 2);
+    EXPECT_EQ(result.err, "plotsmith: " + said + "\n");
+  }
+}
+
+TEST_F(CommandTest, AWorkbookWithoutDefinitionsIsLeftAsItIs) {
+  const S book = Write(PlainSales()), before = BytesOf(book), out = folder_ / "out.xlsx";
+  const S said = "plotsmith: \"" + book + "\" has no charts of Plotsmith, so nothing was refreshed.\n";
+  CommandResult result = RunCommand({"refresh", book});
+  EXPECT_EQ(result.err, said);
+  EXPECT_EQ(result.code, 1);
+  EXPECT_EQ(BytesOf(book), before);
+  result = RunCommand({"refresh", book, "-o", out});
+  EXPECT_EQ(result.err, said);
+  EXPECT_EQ(RunCommand({"tables", out}).out, RunCommand({"tables", book}).out) << "-o always writes";
+}
+
+TEST_F(CommandTest, ArgumentsAreTakenAsTheyAreWritten) {
+  const S book = Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2"}})), out = folder_ / "out.xlsx";
+  EXPECT_EQ(RunCommand({"refresh", book}).code, 0);
+  for (const S name : {"[VEX_Chart2]", "++", "[a,b]"}) {
+    EXPECT_EQ(RunCommand({"modify", book, "VEX_Chart1", "--name", name}).code, 0) << name;
+    EXPECT_EQ(RunCommand({"delete", book, name, "-o", out}).err, "") << name;
+    EXPECT_TRUE(Charts(out).starts_with("VEX_Chart2")) << name;
+  }
+  EXPECT_EQ(RunCommand({"format", "[h]", "1.5"}).out, "36\n");
+  const auto script = [&](const std::vector<S>& options) {
+    return RunCommand(Joined({"modify", book, "VEX_Chart1"}, Joined(options, {"--print-script"}))).out;
+  };
+  EXPECT_NE(script({"--title="}).find("\ntype txtTitle \"\"\n"), S::npos);
+  EXPECT_NE(script({"--title=[x]"}).find("\ntype txtTitle [x]\n"), S::npos);
+  EXPECT_NE(script({"--x-axis=", "--y-axis=Q"}).find("\ntype txtHAxis \"\"\ntype txtVAxis Q\n"), S::npos);
+  EXPECT_EQ(RunCommand({"tables", "--", "--x="}).err,
+            "plotsmith: can't read \"--x=\": there is no such file.\n");
 }
 
 TEST_F(CommandTest, AWorkbookThatIsOpenElsewhereIsRefused) {
@@ -366,6 +408,12 @@ TEST_F(CommandTest, ChartsFollowRenamedColumns) {
   const S before = BytesOf(book);
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amount=Units"});
   EXPECT_EQ(result.err, waiting) << "it is already renamed";
+  result = RunCommand({"rename-columns", book, "--table", "Data1", "Amount=Cost", "Units=Amount", "-o",
+                       folder_ / "partly.xlsx"});
+  EXPECT_EQ(result.err,
+            "plotsmith: no chart of the table 'Data1' has a column 'Amount'; there are Product, Region and "
+            "Units.\n")
+      << "the columns before the renamings";
   result = RunCommand({"rename-columns", book, "--table", "Data1", "Amuont=Money", "label=Text"});
   EXPECT_EQ(result.code, 1);
   EXPECT_EQ(

@@ -184,9 +184,10 @@ std::vector<BookRun> PlanRuns(const std::vector<std::string>& books,
         "only one workbook can be written to the standard output; several can be written into a folder.");
   }
   if (output && once.size() > 1) {
-    throw CommandError(
-        exit_code::kUsage,
-        "\"" + *output + "\" isn't a folder; several workbooks can only be written into a folder.");
+    throw CommandError(exit_code::kUsage, (fs::exists(runtime::PathOf(*output), ignored)
+                                               ? "\"" + *output + "\" isn't a folder"
+                                               : "there is no folder \"" + *output + "\"") +
+                                              "; several workbooks can only be written into a folder.");
   }
   std::vector<BookRun> runs;
   for (const std::string& book : once) runs.push_back({book, output});

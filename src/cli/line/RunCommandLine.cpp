@@ -5,6 +5,7 @@
 
 #include "cli/Candidates.h"
 #include "cli/Failures.h"
+#include "cli/LiteralArguments.h"
 #include "cli/line/CommandLine.h"
 
 namespace plotsmith::cli {
@@ -71,10 +72,9 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
                                    [&](const CLI::App* verb) { return verb->get_name() == arguments[at]; });
     if (!known) throw line.NoSuchVerb(arguments[at]);
     arguments = WithFormatsBehindTheOptions(std::move(arguments), at, line.app);
-    std::reverse(arguments.begin(), arguments.end());  // The parser expects them in reverse order.
     int code = exit_code::kDone;
     try {
-      line.app.parse(arguments);
+      ParseLiterally(line.app, std::move(arguments));
       code = run();
     } catch (const CLI::Success& e) {  // help and version
       line.app.exit(e, streams.out, streams.err);

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <utility>
 
+#include "cli/LiteralArguments.h"
 #include "cli/NumberOptions.h"
 #include "qt/wizard/EventLoop.h"
 #include "qt/wizard/WizardProgram.h"
@@ -70,12 +71,12 @@ int main(int argc, char** argv) {
   Declare(app, options);
   // Help and version need no screen, so the arguments are read before Qt starts.
   try {
-    app.parse(argc, argv);
+    cli::ParseLiterally(app, {argv + 1, argv + argc});
   } catch (const CLI::Success& e) {
     return app.exit(e);
-  } catch (const CLI::ParseError& e) {
-    std::cerr << "plotsmith-wizard: " << e.what() << " (try plotsmith-wizard --help)\n";
-    return cli::exit_code::kUsage;
+  } catch (const cli::CommandError& e) {
+    std::cerr << "plotsmith-wizard: " << e.what() << '\n';
+    return e.ExitCode();
   }
   if (!HasScreen()) {
     std::cerr << "plotsmith-wizard: there is no screen for the window; \"plotsmith new\" and its other verbs "
