@@ -171,6 +171,20 @@ TEST_F(CheckTest, InvisibleCharts) {
       Found(book),
       List{"No chart has the alternative text 'VEX_Chart1'; there are no charts; the chart was drawn and "
            "no longer exists, so the next refresh removes its definition."});
+
+  // Excel's model finds charts by name, and a person can move two charts with the same name to one sheet.
+  const S path = Write(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
+  EditPart(path, "/xl/drawings/drawing2.xml",
+           [](S& drawing) { drawing = runtime::Replace(drawing, "\"Chart 2\"", "\"CHART 1\""); });
+  const S before = BytesOf(path);
+  const CommandResult refreshed = RunCommand({"refresh", path});
+  EXPECT_EQ(refreshed.code, 3);
+  EXPECT_EQ(refreshed.err,
+            "plotsmith: VEX_ChartDefinitions!A3: Another chart on the sheet 'Charts' has the same name, "
+            "'CHART 1', and would be drawn in its place; rename one of them in the selection pane.\n"
+            "plotsmith: nothing was changed, because 1 definition would be lost; correct this, or use "
+            "--drop-broken.\n");
+  EXPECT_EQ(BytesOf(path), before);
 }
 
 TEST_F(CheckTest, InvalidNamesAndValuesInDefinitions) {

@@ -1,7 +1,10 @@
 #include "cli/check/ChartMarkers.h"
 
+#include <set>
+
 #include "cli/check/Words.h"
 #include "host/excel/Constants.h"
+#include "runtime/Strings.h"
 #include "xlsx/SheetDrawing.h"
 #include "xlsx/Worksheet.h"
 #include "xlsx/package/Xml.h"
@@ -30,14 +33,17 @@ bool ChartMarkers::ReadNextSheet() {
   xlsx::Worksheet& sheet = *sheets[sheetsRead_++];
   const xlsx::SheetDrawing* const drawing = sheet.FindDrawing();
   if (drawing == nullptr) return true;
+  std::set<std::string> names;
   for (const auto& shape : drawing->Shapes()) {
     if (shape->Type() == excel::msoChart) {
+      const bool hasOwnName = names.insert(runtime::UCase(shape->Name())).second;
       const std::string text = shape->AlternativeText();
       if (text.empty()) {
         ++unmarked_;
         continue;
       }
-      const auto [first, isNew] = charts_.try_emplace(text, MarkedChart{sheet.SheetName(), shape});
+      const auto [first, isNew] =
+          charts_.try_emplace(text, MarkedChart{sheet.SheetName(), shape, !hasOwnName});
       if (!isNew) first->second.others.push_back(sheet.SheetName());
     } else if (shape->Type() == excel::msoGroup) {
       for (const std::string& text : TextsInGroup(shape->Object())) grouped_.emplace(text, sheet.SheetName());
@@ -65,6 +71,11 @@ std::shared_ptr<xlsx::SheetShape> ChartMarkers::ShapeOf(const std::string& id) {
 std::string ChartMarkers::SheetOf(const std::string& id) {
   const MarkedChart* const found = Find(id);
   return found == nullptr ? lost_.SheetOf(id) : found->sheet;
+}
+
+bool ChartMarkers::IsHiddenByName(const std::string& id) {
+  const MarkedChart* const found = Find(id);
+  return found != nullptr && found->isHiddenByName;
 }
 
 bool ChartMarkers::IsGrouped(const std::string& id) {

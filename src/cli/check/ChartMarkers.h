@@ -24,6 +24,9 @@ class ChartMarkers {
   /// Returns the sheet of the chart with the id, or "". A chart that has lost its alternative text is
   /// identified by its data.
   std::string SheetOf(const std::string& id);
+  /// Returns true if an earlier chart on the sheet has the same name as the chart with the id. Charts are
+  /// drawn by name, so the earlier one would be drawn.
+  bool IsHiddenByName(const std::string& id);
   /// Returns true if the chart with the id is in a group of shapes.
   bool IsGrouped(const std::string& id);
   /// Returns the sheets of the charts by alternative text, in sheet order.
@@ -35,6 +38,7 @@ class ChartMarkers {
   struct MarkedChart {
     std::string sheet;
     std::shared_ptr<xlsx::SheetShape> shape;
+    bool isHiddenByName;
     std::vector<std::string> others = {};  ///< The sheets of further charts with the same text.
   };
 

@@ -121,6 +121,13 @@ class RowCheck {
       definition.chartPart = shape->ChartPartName();
       if (!IsReadable(*shape)) {
         Report(definition, FindingKind::kChart, "The chart can't be read.", Severity::kRefuses);
+      } else if (markers_.IsHiddenByName(definition.id)) {
+        Report(definition, FindingKind::kChart,
+               "Another chart on the sheet " + Quoted(definition.chartSheet) + " has the same name, " +
+                   Quoted(shape->Name()) +
+                   ", and would be drawn in its place; rename one of them in the "
+                   "selection pane.",
+               Severity::kRefuses);
       }
     }
   }
@@ -201,10 +208,11 @@ std::vector<CheckedDefinition> CheckRows(xlsx::Workbook& book) {
 
 std::vector<CheckedDefinition> CheckDefinitions(xlsx::Workbook& book) {
   std::vector<CheckedDefinition> definitions = CheckRows(book);
+  NamedColumns named;
   for (CheckedDefinition& definition : definitions) {
     if (!definition.document) continue;
     Append(definition.findings,
-           CheckSource(book, definition.document.selectSingleNode("chart"), definition.place));
+           CheckSource(book, definition.document.selectSingleNode("chart"), definition.place, named));
   }
   return definitions;
 }

@@ -176,7 +176,7 @@ class FormatCheck {
     for (const auto& attribute : chart.selectNodes("dynamic-attributes/attribute")) {
       const std::string setting = GetAttributeText(attribute, "setting");
       if (setting.empty() || std::find(allowed.begin(), allowed.end(), setting) != allowed.end()) continue;
-      Report("A " + (isKnownType ? type + " " : "") + "chart has no setting " + Quoted(setting) +
+      Report((isKnownType ? Capitalized(ChartOf(type)) : "A chart") + " has no setting " + Quoted(setting) +
              "; it can have " + Listed(allowed) + ".");
     }
   }

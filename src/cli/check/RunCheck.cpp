@@ -72,7 +72,7 @@ const CheckedDefinition* RunCheck::FindRow(const std::string& id) const {
 void RunCheck::ChartStarted(const std::string& id) {
   const auto chart = colCharts->Item(id).selectSingleNode("chart");
   Findings& findings = started_[id];
-  findings = CheckSources(book_, chart, "");
+  findings = CheckSources(book_, chart, named_);
   CompareStored();
   if (GetAttributeText(chart, "type") == kBubble &&
       std::none_of(findings.begin(), findings.end(), ForbidsDrawing)) {

@@ -7,6 +7,7 @@
 
 #include "cli/check/DefinitionCheck.h"
 #include "cli/check/Finding.h"
+#include "cli/check/NamedColumns.h"
 #include "xlsx/Workbook.h"
 
 namespace plotsmith::cli {
@@ -61,9 +62,10 @@ class RunCheck {
 
   xlsx::Workbook& book_;
   DefinitionsAre definitions_;
-  std::vector<CheckedDefinition> rows_;          ///< Before the run.
-  Findings strayCharts_;                         ///< Before the run.
-  std::map<std::string, Findings> started_;      ///< Findings about each chart whose build began, by id.
+  std::vector<CheckedDefinition> rows_;      ///< Before the run.
+  Findings strayCharts_;                     ///< Before the run.
+  std::map<std::string, Findings> started_;  ///< Findings about each chart whose build began, by id.
+  NamedColumns named_;
   std::map<std::string, Findings> differences_;  ///< Differences in which the chart takes precedence, by id.
   bool compared_ = false;
   /// The tables of the bubble charts that were drawn with a legend, by chart id.

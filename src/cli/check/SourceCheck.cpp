@@ -39,8 +39,9 @@ std::string Headings(const IXMLDOMNodeList& columns) {
 /// Checks a definition. Each method finds one kind of problem.
 class SourceCheck {
  public:
-  SourceCheck(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place)
-      : book_(book), chart_(chart), place_(place), type_(GetAttributeText(chart, "type")) {}
+  SourceCheck(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place,
+              NamedColumns& named)
+      : book_(book), chart_(chart), place_(place), named_(named), type_(GetAttributeText(chart, "type")) {}
 
   Findings Run() {
     for (const ColumnGroup& group : ColumnGroups()) CheckGroup(group);
@@ -61,6 +62,7 @@ class SourceCheck {
     findings_.push_back({place_, kind, std::move(sentence)});
   }
 
+  std::string Subject() const { return Capitalized(ChartOf(type_)); }
   IXMLDOMElement Group(const char* element) const { return chart_.selectSingleNode(element); }
   std::string HeadingsIn(const char* element) const {
     const auto group = Group(element);
@@ -73,7 +75,7 @@ class SourceCheck {
     const auto element = Group(group.element);
     if (!element) {
       if (group.IsNeededFor(type_)) {
-        Report(FindingKind::kFormat, "A " + type_ + " chart needs the element " + quoted + ".");
+        Report(FindingKind::kFormat, Subject() + " needs the element " + quoted + ".");
       }
       return;
     }
@@ -104,7 +106,7 @@ class SourceCheck {
     if (!isPivot || Group("values")) return;
     if (HeadingsIn("categories") == "columns" || HeadingsIn("series") == "columns") return;
     Report(FindingKind::kFormat,
-           "A " + type_ + " chart needs the element 'values', unless its headings are in columns.");
+           Subject() + " needs the element 'values', unless its headings are in columns.");
   }
 
   void CheckHeadingsInColumns() {
@@ -115,8 +117,7 @@ class SourceCheck {
     }
     if ((categories || series) && (type_ == "bubble" || type_ == kBucketType)) {
       Report(FindingKind::kFormat,
-             "A " + type_ +
-                 " chart can't have headings in columns; 'headings-in' must be rows, or none for series.");
+             Subject() + " can't have headings in columns; 'headings-in' must be rows, or none for series.");
     }
   }
 
@@ -180,7 +181,7 @@ class SourceCheck {
 
   /// Returns the end of a sentence about a missing column: how to update the name if the column was probably
   /// renamed.
-  std::string RenamingHint(const IXMLDOMElement& missing) const {
+  std::string RenamingHint(const IXMLDOMElement& missing) {
     const std::string renamed = ColumnInPlaceOf(missing);
     if (renamed.empty()) return "";
     return "; " + Quoted(renamed) +
@@ -192,7 +193,7 @@ class SourceCheck {
 
   /// Returns the heading at the position where the column was at the last refresh. It is "" if there is none,
   /// or if the definition names that column itself.
-  std::string ColumnInPlaceOf(const IXMLDOMElement& missing) const {
+  std::string ColumnInPlaceOf(const IXMLDOMElement& missing) {
     const std::int32_t drawnAt = StoredNumber(missing, "worksheet-column-number");
     const std::int32_t drawnLeft = StoredNumber(chart_, "table-left-column");
     if (drawnAt == 0 || drawnLeft == 0) return "";
@@ -200,7 +201,10 @@ class SourceCheck {
     for (const IXMLDOMElement& column : columns_) {
       if (GetAttributeLong(column, "worksheet-column-number") != number) continue;
       const std::string name = GetAttributeText(column, "name");
-      return IsNamed(name) ? "" : name;
+      // The own definition isn't loaded if only the definitions are checked.
+      const bool isNamed = ColumnsNamedIn(chart_).contains(runtime::UCase(name)) ||
+                           named_.Contains(GetAttributeText(chart_, "table-id"), name);
+      return isNamed ? "" : name;
     }
     return "";
   }
@@ -208,24 +212,6 @@ class SourceCheck {
   /// Returns a number that the last refresh has stored in the definition, or 0.
   static std::int32_t StoredNumber(const IXMLDOMElement& element, const char* attribute) {
     return ValueOr(std::int32_t{0}, [&] { return GetAttributeLong(element, attribute); });
-  }
-
-  /// Returns true if a loaded definition of the table names the column, which is then not a new name.
-  bool IsNamed(const std::string& name) const {
-    if (Names(chart_, name)) return true;
-    const std::string table = GetAttributeText(chart_, "table-id");
-    return colCharts && std::any_of(colCharts->begin(), colCharts->end(), [&](const auto& document) {
-             const auto other = document.selectSingleNode("chart");
-             return GetAttributeText(other, "table-id") == table && Names(other, name);
-           });
-  }
-
-  /// Returns true if a group of the definition names the column.
-  static bool Names(const IXMLDOMElement& chart, const std::string& name) {
-    return std::any_of(ColumnGroups().begin(), ColumnGroups().end(), [&](const ColumnGroup& group) {
-      const auto element = chart.selectSingleNode(group.element);
-      return element && FindColumn(element.selectNodes("column"), name);
-    });
   }
 
   /// Returns the columns, label columns first, as in a refresh.
@@ -305,6 +291,7 @@ class SourceCheck {
   xlsx::Workbook& book_;
   const IXMLDOMElement& chart_;
   const std::string& place_;
+  NamedColumns& named_;
   std::string type_;
   IXMLDOMElement table_;     ///< The source table, or Nothing.
   IXMLDOMNodeList columns_;  ///< The columns of the source table.
@@ -313,12 +300,13 @@ class SourceCheck {
 
 }  // namespace
 
-Findings CheckSource(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place) {
-  return SourceCheck(book, chart, place).Run();
+Findings CheckSource(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place,
+                     NamedColumns& named) {
+  return SourceCheck(book, chart, place, named).Run();
 }
 
-Findings CheckSources(xlsx::Workbook& book, const IXMLDOMElement& chart, const std::string& place) {
-  Findings findings = CheckSource(book, chart, place);
+Findings CheckSources(xlsx::Workbook& book, const IXMLDOMElement& chart, NamedColumns& named) {
+  Findings findings = CheckSource(book, chart, "", named);
   Append(findings, CheckUsedCells(book, chart));
   return findings;
 }

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <utility>
 
+#include "runtime/Ascii.h"
 #include "runtime/Strings.h"
 #include "xlsx/sheet/Reference.h"
 
@@ -51,6 +52,13 @@ std::string Listed(const std::vector<std::string>& items, const char* word) {
 
 std::string ThereAre(const std::vector<std::string>& items) {
   return (items.size() == 1 ? "there is " : "there are ") + Listed(items);
+}
+
+std::string ChartOf(const std::string& type) { return (type == "area" ? "an " : "a ") + type + " chart"; }
+
+std::string Capitalized(std::string sentence) {
+  if (!sentence.empty()) sentence.front() = ascii::Upper(sentence.front());
+  return sentence;
 }
 
 std::string Counted(std::size_t count, const std::string& noun) {

@@ -19,6 +19,10 @@ std::string ShellWord(const std::string& text);
 std::string Listed(const std::vector<std::string>& items, const char* word = "and");
 /// Returns "there is a", "there are a and b" or "there are none".
 std::string ThereAre(const std::vector<std::string>& items);
+/// Returns a chart type with its noun and article, such as "an area chart".
+std::string ChartOf(const std::string& type);
+/// Returns a sentence with a capital letter at its beginning.
+std::string Capitalized(std::string sentence);
 /// Returns "1 cell", "2 cells" and so on.
 std::string Counted(std::size_t count, const std::string& noun);
 /// Returns the form of a word for one or several: ForCount(count, "makes", "make").
