@@ -90,7 +90,7 @@ TEST_F(ChartVerbsTest, MissingThingsAreReportedAndNothingIsSaved) {
       {{"modify", "VEX_Chart1", "--series-columns", "Cost", "--values", "Cost"},
        "--values needs categories and series that aren't number columns."},
       {{"modify", "VEX_Chart1", "--set", "3D", "--unset", "3D"}, "3D can't be both set and unset."},
-      {{"modify", "VEX_Chart1", "--title", S(256, 'x')}, "--title takes 255 characters."},
+      {{"modify", "VEX_Chart1", "--title", S(256, 'x')}, "--title takes at most 255 characters."},
       {{"modify", "VEX_Chart1", "--name", "a\x02"}, "--name accepts no control characters."},
       {{"modify", "VEX_Chart1", "--number-format", "\x01"}, "--number-format accepts no control characters."},
       {{"new", "--table", "Data1", "--type", "bar", "--new-sheet", "vex_chartdata"},
@@ -258,6 +258,22 @@ TEST_F(ChartVerbsTest, CopiesAreMadeOnTheGivenSheet) {
   }
 }
 
+TEST_F(ChartVerbsTest, ACopyHasANameThatFitsItsBox) {
+  const std::pair<S, S> names[] = {{"Sales&amp;#10;by region", "Copy of Sales by region"},
+                                   {S(255, 'x'), "Copy of " + S(247, 'x')}};
+  for (const auto& [name, copy] : names) {
+    const S book = Write(SalesBook({{"VEX_Chart1"}}));
+    EditPart(book, "/xl/worksheets/sheet3.xml", [&](S& sheet) {
+      const S old = "Name of VEX_Chart1";
+      sheet.replace(sheet.find(old), old.size(), name);
+    });
+    EXPECT_EQ(RunCommand({"refresh", book}).code, 0);
+    const CommandResult result = RunCommand({"copy", book, "VEX_Chart1", "-o", out_});
+    EXPECT_EQ(result.err, "") << name;
+    EXPECT_NE(Charts(out_).find("VEX_Chart2  \"" + copy + "\"\n"), S::npos) << Charts(out_);
+  }
+}
+
 TEST_F(ChartVerbsTest, DeletesSeveralCharts) {
   EXPECT_EQ(Verb({"delete", "VEX_Chart2", "name of VEX_Chart1", "VEX_Chart2"}).code, 0);
   EXPECT_EQ(Charts(out_), "There are no charts of Plotsmith.\n");
@@ -285,6 +301,23 @@ TEST_F(ChartVerbsTest, AmbiguousRowsAreSelectedByNumber) {
       "several charts have the name 'same': VEX_Chart1 and VEX_Chart3; use the id of one of them.\n";
   EXPECT_EQ(Verb({"delete", "same"}).err, "plotsmith: " + sentence);
   EXPECT_EQ(RunCommand({"definition", book_, "same"}).err, "plotsmith: " + sentence);
+}
+
+TEST_F(ChartVerbsTest, BucketTablesWithTheSameNameAreToldApartById) {
+  PlainBook book = PlainSales();
+  PlainSheet targets = book.Sheet("Targets");
+  targets.name = "Targets2";
+  book.sheets.push_back(targets);
+  book.names.emplace_back("VEX_SB2", "Targets2!$A$1:$B$5");
+  const S path = Write(book);
+  for (const S id : {"VEX_SB1", "VEX_SB2"}) {
+    const CommandResult result =
+        RunCommand({"new", path, "--table", "Data1", "--type", "strategic bucket", "--title", "A",
+                    "--categories", "Product", "--bucket-table", id, "-o", out_});
+    EXPECT_EQ(result.err, "");
+    EXPECT_NE(StoredDefinition(out_, "VEX_Chart1").find("strategic-bucket-table-id=\"" + id + "\""), S::npos)
+        << id;
+  }
 }
 
 TEST_F(ChartVerbsTest, MessagesOfTheBuildAreReported) {

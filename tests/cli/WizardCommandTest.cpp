@@ -111,7 +111,7 @@ TEST_F(WizardCommandTest, FilesAndLocksAreChecked) {
       << result.err;
   result = RunCommand({"wizard", book, "--show"});
   EXPECT_EQ(result.code, 2);
-  EXPECT_EQ(result.err, "plotsmith: --show requires --script (try plotsmith --help)\n");
+  EXPECT_EQ(result.err, "plotsmith: --show requires --script (try plotsmith wizard --help)\n");
   for (const auto& [path, reason] :
        std::vector<std::pair<S, S>>{{folder_ / "none.txt", "No such file or directory"},
                                     {folder_.Path().string(), "Is a directory"}}) {

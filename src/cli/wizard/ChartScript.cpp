@@ -153,9 +153,9 @@ Steps ChartScript::OnChartLocation() const {
   if (options_.name) {
     steps.push_back(TypeStep("txtName", *options_.name, "--name"));
   } else if (work_ == ChartWork::kCopy) {
-    // The default is the title, which is usually the name of the original chart.
-    const std::string name = GetAttributeText(oChartDoc.selectSingleNode("chart"), "name");
-    steps.push_back(TypeStep("txtName", name, "--name"));
+    // The page proposes the title, which is usually the name of the original chart.
+    steps.push_back(
+        FittingTextStep("txtName", GetAttributeText(oChartDoc.selectSingleNode("chart"), "name")));
   }
   steps.push_back(PressStep("cmdFinish"));
   return steps;

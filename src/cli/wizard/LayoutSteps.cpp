@@ -16,8 +16,6 @@ namespace {
 
 using forms::ScriptError;
 
-std::string ChartOf(const std::string& type) { return (type == "area" ? "an " : "a ") + type + " chart"; }
-
 void CheckOptions(const LayoutOptions& options, const LayoutControls& layout, const std::string& type) {
   const auto has = OptionsOf(layout);
   for (const std::string& option : GivenOptions(options)) {
@@ -70,7 +68,7 @@ void AddSeries(Steps& steps, const LayoutOptions& options, const LayoutControls&
   }
   if (options.noSeries) {
     steps.push_back(layout.hasColumns ? OptionStep("optSeries(0)", "--no-series")
-                                      : FirstEntryStep(layout.series, "--no-series"));
+                                      : EntryStep(layout.series, 0, "--no-series"));
   }
 }
 
@@ -87,15 +85,15 @@ void AddNumbers(Steps& steps, const LayoutOptions& options, const LayoutControls
   if (options.descending) steps.push_back(OptionStep("optBlockSequence(1)", "--descending"));
 }
 
-/// Returns the name of the bucket table with an id, among those that fit the source table.
-std::string NameOfBucketTable(const std::string& id) {
+/// Returns the index of a bucket table in the page's list, which has the tables that fit the source table.
+/// Several tables can have the same name there.
+std::int32_t IndexOfBucketTable(const std::string& id) {
   std::vector<std::string> ids;
   const auto candidates = GetBucketCandidates(colTables->Item(sTableID).selectSingleNode("table"));
   if (candidates) {
     for (const dom::IXMLDOMDocument2& document : *candidates) {
-      const auto table = document.selectSingleNode("table");
-      ids.push_back(GetAttributeText(table, "id"));
-      if (ids.back() == id) return GetAttributeText(table, "name");
+      ids.push_back(GetAttributeText(document.selectSingleNode("table"), "id"));
+      if (ids.back() == id) return static_cast<std::int32_t>(ids.size()) - 1;
     }
   }
   throw ScriptError("no table " + Quoted(id) + " that can be the bucket table of " + sTableID + "; " +
@@ -141,7 +139,7 @@ Steps LayoutSteps(const LayoutOptions& options, const std::string& type) {
   if (options.title) steps.push_back(TypeStep("txtTitle", *options.title, "--title"));
   if (options.bucketTable) {
     steps.push_back(
-        EntriesStep(layout.bucketTables, {NameOfBucketTable(*options.bucketTable)}, "--bucket-table"));
+        EntryStep(layout.bucketTables, IndexOfBucketTable(*options.bucketTable), "--bucket-table"));
   }
   AddCategories(steps, options, layout);
   AddSeries(steps, options, layout);

@@ -85,14 +85,18 @@ bool HasSame(std::vector<std::string> a, std::vector<std::string> b) {
   return a == b;
 }
 
-/// Returns the word that selects a row: its text, or its number if the text is ambiguous.
-std::string WordForRow(const forms::VSFlexGrid& grid, std::int32_t row) {
-  const std::string& text = grid.TextMatrix(row, 0);
-  int same = 0;
-  for (std::int32_t other = grid.FixedRows(); other < grid.Rows(); ++other) {
-    if (grid.TextMatrix(other, 0) == text) ++same;
+std::vector<std::string> RowsOf(const forms::VSFlexGrid& grid) {
+  std::vector<std::string> rows;
+  for (std::int32_t row = grid.FixedRows(); row < grid.Rows(); ++row) rows.push_back(grid.TextMatrix(row, 0));
+  return rows;
+}
+
+/// Returns the word that selects an item: its text, or its number if the text is ambiguous.
+std::string WordForItem(const std::vector<std::string>& items, std::int32_t index) {
+  const std::string& text = items[static_cast<std::size_t>(index)];
+  if (std::count(items.begin(), items.end(), text) > 1 || text.starts_with('#')) {
+    return "#" + std::to_string(index + 1);
   }
-  if (same > 1 || text.starts_with('#')) return "#" + std::to_string(row - grid.FixedRows() + 1);
   return WordFor(text);
 }
 
@@ -112,6 +116,16 @@ Step TypeStep(const char* control, std::string text, const char* option) {
                                      : dynamic_cast<const forms::ComboBox&>(*target).ObstacleTo(text);
     if (!obstacle.empty()) throw ScriptError(std::string(option) + " " + obstacle);
     return std::string("type ") + control + " " + WordFor(text);
+  };
+}
+
+Step FittingTextStep(const char* control, std::string text) {
+  return [control, text = std::move(text)](const forms::Form& page) {
+    const std::size_t limit = ControlOn<forms::TextBox>(page, control).Limit();
+    std::u16string units = runtime::ToUtf16(forms::WithLineEnds(text, "\n"));
+    if (limit > 0 && units.size() > limit) units.resize(limit);
+    forms::ReplaceUntypeable(units, u"");
+    return std::string("type ") + control + " " + WordFor(runtime::ToUtf8(units));
   };
 }
 
@@ -151,12 +165,12 @@ Step EntriesStep(const char* control, std::vector<std::string> texts, const char
   };
 }
 
-Step FirstEntryStep(const char* control, const char* option) {
-  return [control, option](const forms::Form& page) -> std::optional<std::string> {
+Step EntryStep(const char* control, std::int32_t index, const char* option) {
+  return [control, index, option](const forms::Form& page) -> std::optional<std::string> {
     const auto& combo = ControlOn<forms::ComboBox>(page, control);
-    if (combo.ListIndex() == 0) return std::nullopt;
+    if (combo.ListIndex() == index) return std::nullopt;
     CheckUsable(combo, option);
-    return std::string("choose ") + control + " " + WordFor(combo.List(0));
+    return std::string("choose ") + control + " " + WordForItem(EntriesOf(combo), index);
   };
 }
 
@@ -164,7 +178,8 @@ Step RowsStep(const char* grid, std::vector<std::int32_t> rows) {
   return [grid, rows = std::move(rows)](const forms::Form& page) {
     const auto& shown = ControlOn<forms::VSFlexGrid>(page, grid);
     std::string line = std::string("select ") + grid;
-    for (const std::int32_t row : rows) line += " " + WordForRow(shown, row);
+    const std::vector<std::string> items = RowsOf(shown);
+    for (const std::int32_t row : rows) line += " " + WordForItem(items, row - shown.FixedRows());
     return line;
   };
 }

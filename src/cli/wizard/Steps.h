@@ -21,6 +21,9 @@ using Steps = std::vector<Step>;
 Step PressStep(const char* button);
 /// Types a text into a box.
 Step TypeStep(const char* control, std::string text, const char* option);
+/// Types a text that the workbook contains into a box of one line. Blanks replace its line ends, and the part
+/// that is too long for the box is cut off.
+Step FittingTextStep(const char* control, std::string text);
 /// Selects an option button unless it is selected.
 Step OptionStep(std::string control, std::string option);
 /// Checks or unchecks a check box if necessary.
@@ -29,8 +32,8 @@ Step TickStep(const char* control, bool checked, std::string option);
 /// `kind` is the kind of entries.
 Step EntriesStep(const char* control, std::vector<std::string> texts, const char* option,
                  const char* kind = "column");
-/// Selects the first entry of a combo box.
-Step FirstEntryStep(const char* control, const char* option);
+/// Selects an entry of a combo box by index unless it is selected.
+Step EntryStep(const char* control, std::int32_t index, const char* option);
 /// Selects rows of a grid by index.
 Step RowsStep(const char* grid, std::vector<std::int32_t> rows);
 

@@ -74,13 +74,19 @@ std::string Instead(const Items& items) {
   return "it has " + SomeOf(names);
 }
 
-/// Returns the index of the first item with the text.
-std::int32_t PlaceOfText(const Items& items, const std::string& text) {
+/// Returns the index of the first item with the text, or nothing.
+std::optional<std::int32_t> FindText(const Items& items, const std::string& text) {
   const std::string wanted = WithLineEnds(text, "\n");
   const auto found = std::find_if(items.texts.begin(), items.texts.end(), [&](const std::string& item) {
     return WithLineEnds(item, "\n") == wanted;
   });
-  if (found != items.texts.end()) return static_cast<std::int32_t>(found - items.texts.begin());
+  if (found == items.texts.end()) return std::nullopt;
+  return static_cast<std::int32_t>(found - items.texts.begin());
+}
+
+/// Returns the index of the first item with the text.
+std::int32_t PlaceOfText(const Items& items, const std::string& text) {
+  if (const auto place = FindText(items, text)) return *place;
   throw ScriptError(items.control.FullName() + " has no " + items.kind + " " + Named(text) + "; " +
                     Instead(items));
 }
@@ -145,7 +151,9 @@ void Choose(const Gesture& gesture) {
   } else if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
     const Items entries = EntriesOf(*combo);
     if (!withItem) throw ScriptError("which entry of " + control.FullName() + "? " + Instead(entries));
-    gesture.hand.ChooseEntry(gesture.queue, *combo, PlaceOfText(entries, gesture.words[2].text));
+    // An entry such as "#2" was always chosen by its text, with or without quotes.
+    const auto place = FindText(entries, gesture.words[2].text);
+    gesture.hand.ChooseEntry(gesture.queue, *combo, place ? *place : PlaceOf(entries, gesture.words[2]));
   } else {
     throw WrongKind(gesture, control, "a combo box or an option");
   }
