@@ -202,7 +202,15 @@ TEST_F(RenderTest, WhatCantBeMeantIsRefusedInOneSentence) {
       {{"BOOK", "--dpi", "300", "-o", "DIR"},
        2,
        "--dpi applies only to PNG; --scale enlarges pictures of all formats.\n"},
-      {{"BOOK", "--dpi", "nan", "-o", "DIR"}, 2, "--dpi needs a number, not 'nan' (try plotsmith --help)\n"},
+      {{"BOOK", "--dpi", "nan", "-o", "DIR"},
+       2,
+       "--dpi needs a number, not 'nan' (try plotsmith render --help)\n"},
+      {{"BOOK", "--scale", "1,5", "-o", "DIR"},
+       2,
+       "--scale needs a number, not '1,5' (try plotsmith render --help)\n"},
+      {{"BOOK", "--format", "png", "-o", "DIR/other.XLSX"},
+       2,
+       "\"DIR/other.XLSX\" is the name of a workbook; a picture ends with .svg, .png or .pdf.\n"},
       {{"BOOK", "--dpi", "9", "-o", "DIR", "--format", "png"}, 2, "--dpi needs a number from 10 to 2400.\n"},
       {{"BOOK", "--scale", "0", "-o", "DIR"}, 2, "--scale needs a number from 0.01 to 100.\n"},
       {{"BOOK", "VEX_Chart1", "--scale", "100", "--dpi", "2400", "-o", "DIR/a.png"},
@@ -321,6 +329,15 @@ TEST_F(RenderTest, OnlyDefinitionsWithAChartOfTheirOwnAreDrawn) {
   EXPECT_EQ(Run({"render", path, "again", "-o", "DIR"}).err,
             "plotsmith: \"" + path +
                 "\" has no chart 'again'; there are Second, First, 'Charts!Chart 3' and 'Charts!Chart 4'.\n");
+}
+
+TEST_F(RenderTest, APictureNeverReplacesTheWorkbook) {
+  const S link = folder_ / "link.png", before = BytesOf(book_);
+  fs::create_hard_link(book_, link);
+  const CommandResult result = RunCommand({"render", book_, "VEX_Chart1", "-o", link});
+  EXPECT_EQ(result.err, "plotsmith: \"" + link + "\" is the workbook itself; a picture would replace it.\n");
+  EXPECT_EQ(result.code, 2);
+  EXPECT_EQ(BytesOf(book_), before);
 }
 
 TEST_F(RenderTest, AWorkbookWithoutChartsOfPlotsmithNamesTheOthers) {

@@ -11,6 +11,7 @@
 #include "cli/batch/Workers.h"
 #include "cli/render/DrawnCharts.h"
 #include "cli/render/PictureNames.h"
+#include "common/PSConstants.h"
 #include "controller/CPlotsmithController.h"
 
 namespace plotsmith::cli {
@@ -82,6 +83,7 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
   Session session(run.book, options, streams);
   session.CheckWritable(run.output);
   session.CheckBeforeRun(DefinitionsAre::kUsed);
+  const bool hasDefinitions = session.Book().FindWorksheet(kDefinitionsSheet) != nullptr;
   CPlotsmithController controller;
   if (table_) {
     std::string table = *table_;
@@ -91,7 +93,8 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
     controller.RefreshPlotsmithData(session.Host(), kHostName, "");
   }
   const RefreshCounts counts = session.Counts();
-  int code = session.Save(run.output);
+  // A run adds the sheet of the definitions. Without definitions, only that would be saved.
+  int code = hasDefinitions || run.output ? session.Save(run.output) : session.Finish();
   if (pictureFolder_) {
     const bool list = !IsStandardOutput(run.output);
     auto writer = std::make_unique<PictureWriter>(PlanOfPictures(), streams, list);

@@ -46,7 +46,7 @@ bool HasColumn(const std::string& table, const std::string& name) {
   });
 }
 
-/// Returns the columns that the charts of the table use, each once.
+/// Returns the columns that the charts of the table use, each once, with their new names.
 std::vector<std::string> ChartedColumns(const std::string& table) {
   std::vector<std::string> names;
   for (const dom::IXMLDOMDocument2& document : *colCharts) {
@@ -57,6 +57,20 @@ std::vector<std::string> ChartedColumns(const std::string& table) {
     }
   }
   return names;
+}
+
+/// Returns the columns that the charts used before the renamings.
+std::vector<std::string> BeforeRenamings(std::vector<std::string> columns,
+                                         const std::vector<Renaming>& renamings) {
+  const std::vector<std::string> after = columns;
+  for (std::string& column : columns) {
+    const auto made = std::find_if(renamings.begin(), renamings.end(), [&](const Renaming& renaming) {
+      return renaming.second == column &&
+             std::find(after.begin(), after.end(), renaming.first) == after.end();
+    });
+    if (made != renamings.end()) column = made->first;
+  }
+  return columns;
 }
 
 }  // namespace
@@ -111,7 +125,7 @@ int RenameColumnsCommand::Run(const GlobalOptions& options, const Streams& strea
     if (colCharts && std::find(charted.begin(), charted.end(), newName) == charted.end()) {
       // No earlier run has renamed it either, so the name may be mistyped.
       complaints.push_back("no chart of the table " + Quoted(table_) + " has a column " + Quoted(oldName) +
-                           "; " + ThereAre(charted) + ".");
+                           "; " + ThereAre(BeforeRenamings(charted, renamings)) + ".");
       continue;
     }
     renamed = true;

@@ -1,6 +1,7 @@
 #include "cli/commands/Render.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <utility>
 
 #include "cli/Failures.h"
@@ -9,6 +10,7 @@
 #include "cli/render/ChartsToDraw.h"
 #include "cli/render/DrawnCharts.h"
 #include "cli/render/DrawnSheet.h"
+#include "runtime/Utf8Path.h"
 #include "xlsx/Sheet.h"
 
 namespace plotsmith::cli {
@@ -34,6 +36,12 @@ int RenderCommand::Run(const GlobalOptions& options, const Streams& streams) {
     throw CommandError(exit_code::kUsage, "--sheet draws a whole sheet and can't be combined with charts.");
   if (onePage_ && !sheet_) throw CommandError(exit_code::kUsage, "--one-page can only be used with --sheet.");
   const PicturePlan plan = PlanPictures(pictures_, output_);
+  std::error_code ignored;
+  if (plan.target == PicturePlan::Target::kFile &&
+      std::filesystem::equivalent(runtime::PathOf(book_), runtime::PathOf(plan.path), ignored)) {
+    throw CommandError(exit_code::kUsage,
+                       "\"" + plan.path + "\" is the workbook itself; a picture would replace it.");
+  }
   const bool list = plan.target == PicturePlan::Target::kFolder;
   auto writer = std::make_unique<PictureWriter>(plan, streams, list);
   writer->LoadAhead();

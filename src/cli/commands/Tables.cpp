@@ -5,6 +5,7 @@
 
 #include "cli/Session.h"
 #include "cli/TableFacts.h"
+#include "cli/check/Words.h"
 #include "common/RunVariables.h"
 #include "dom/Dom.h"
 
@@ -14,11 +15,11 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 void Print(std::ostream& out, const Json& table) {
-  out << table["id"].get<std::string>() << "  \"" << table["name"].get<std::string>() << "\"\n  "
+  out << table["id"].get<std::string>() << "  \"" << OneLine(table["name"].get<std::string>()) << "\"\n  "
       << TablePlace(table) << '\n';
   for (const auto& column : table["columns"]) {
     out << "  " << column["kind"].get<std::string>() << "\tcolumn " << column["column"] << '\t'
-        << column["name"].get<std::string>() << '\n';
+        << OneLine(column["name"].get<std::string>()) << '\n';
   }
 }
 

@@ -12,6 +12,7 @@
 #include "cli/check/Words.h"
 #include "runtime/Strings.h"
 #include "runtime/Utf8Path.h"
+#include "xlsx/package/WorkbookKind.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -61,6 +62,9 @@ PictureFormat FormatFor(const PictureOptions& options, const PicturePlan& plan) 
     throw Usage("the name \"" + plan.path +
                 "\" has no known extension: use .svg, .png or .pdf, or --format; the name of a new folder "
                 "ends with \"/\".");
+  }
+  if (xlsx::KindOfName(plan.path) != nullptr) {
+    throw Usage("\"" + plan.path + "\" is the name of a workbook; a picture ends with .svg, .png or .pdf.");
   }
   if (format && ofFile && *format != *ofFile)
     throw Usage("\"" + plan.path + "\" and --format " + *options.format + " are different formats.");
