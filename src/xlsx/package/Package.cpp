@@ -200,10 +200,14 @@ class NamedStream : public Archive::Stream {
 };
 
 void CheckSize(const ArchiveEntry& entry, const std::string& part, std::uint64_t limit) {
+  const std::string size = "it inflates to " + std::to_string(entry.size) + " bytes, ";
   const bool bomb = entry.size > limits::kAnyRatio && entry.size / limits::kRatio > entry.compressedSize;
-  if (bomb || entry.size > limit) {
+  if (bomb || entry.size > limits::kStreamedPart) {
+    throw PartError(part, size + "more than any valid workbook needs");
+  }
+  if (entry.size > limit) {
     throw PartError(
-        part, "it inflates to " + std::to_string(entry.size) + " bytes, more than any valid workbook needs");
+        part, size + "more than the " + std::to_string(limit) + " bytes that Plotsmith can hold in memory");
   }
 }
 

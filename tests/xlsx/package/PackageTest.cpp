@@ -348,6 +348,32 @@ TEST_F(PackageFileTest, BombsAreRefusedBeforeTheyUseMemory) {
   EXPECT_THROW(package.Stream("/xl/blanks.xml"), PackageError);
 }
 
+TEST_F(PackageFileTest, TheReasonForRefusingALargePartIsTrue) {
+  struct {
+    std::size_t stored, declared;  // The bytes in the file and in its directory.
+    S refusal;
+  } const kCases[] = {
+      {1'000'000, 301'000'000, "it inflates to 301000000 bytes, more than any valid workbook needs"},
+      {2'000'000, 536'870'913,
+       "it inflates to 536870913 bytes, more than the 536870912 bytes that Plotsmith can hold in memory"}};
+  for (const auto& c : kCases) {
+    ArchiveWriter writer(folder_ / "large.xlsx");
+    writer.Add("[Content_Types].xml", "<Types/>");
+    const S blanks(c.stored, ' ');
+    writer.Add("xl/large.xml", blanks, false);
+    writer.Finish();
+    S bytes = test::BytesOf(folder_ / "large.xlsx");
+    const auto local = bytes.find("xl/large.xml"), central = bytes.rfind("xl/large.xml");
+    for (std::size_t i = 0; i < 4; ++i) {
+      bytes[local - 8 + i] = bytes[central - 22 + i] = static_cast<char>(c.declared >> (8 * i));
+    }
+    std::ofstream(folder_ / "large.xlsx", std::ios::binary) << bytes;
+    const Package package = Package::Open(folder_ / "large.xlsx");
+    EXPECT_EQ(test::ErrorTextOf<PackageError>([&] { package.Read("/xl/large.xml"); }),
+              "its part /xl/large.xml can't be read: " + c.refusal);
+  }
+}
+
 TEST(XmlTest, UnchangedPartsAreWrittenUnchanged) {
   for (const S& text : {S("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?><a x=\"1 &lt; &#10; "
                           "&apos;\">&#13;\r\n &amp; <b/>\t<!-- c --><?p q?><![CDATA[<]]> </a>"),
