@@ -234,13 +234,17 @@ void SheetList::Write() {
 }
 
 void SheetList::WriteActiveTab() {
+  std::size_t shown = active_;
   if (active_ < sheets_.size() && sheets_[active_] != opened_) {
     std::vector<std::string> parts;
     for (const auto& sheet : sheets_) parts.push_back(sheet->part);
-    SelectOnlyTab(book_.Package(), parts, sheets_[active_]->part);
-    opened_ = sheets_[active_];
+    if (SelectOnlyTab(book_.Package(), parts, sheets_[active_]->part)) {
+      opened_ = sheets_[active_];
+    } else {
+      shown = PositionOf(*opened_);  // Another tab would make a group with the selected ones.
+    }
   }
-  const auto active = static_cast<long long>(active_);
+  const auto active = static_cast<long long>(shown);
   pugi::xml_node view = xml::Child(part_.Root(), "bookViews", "workbookView");
   if (xml::IntegerAttribute(view, "activeTab", 0) == active) return;
   if (!view) {

@@ -1,10 +1,12 @@
 #include <algorithm>
+#include <fstream>
 #include <functional>
 #include <limits>
 #include <new>
 
 #include "runtime/Strings.h"
 #include "tests/support/ErrorOf.h"
+#include "tests/support/Files.h"
 #include "tests/support/HostTest.h"
 #include "tests/support/SaveFailures.h"
 #include "xlsx/SheetDrawing.h"
@@ -270,6 +272,36 @@ TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   SaveAndReopen();
   EXPECT_EQ(tabs(), "5");
   EXPECT_EQ(Book().ActiveSheet()->Name(), "Sheet1");
+}
+
+TEST_F(ForeignBookTest, ANewSheetIsNotShownIfItWouldBeGroupedWithAnother) {
+  PlainBook book = SalesBook({});
+  book.Sheet("Data1").beforeData =
+      "<sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"/></sheetViews>";
+  // The view of a long sheet with a wrong checksum can be read, but the whole part can't. The same is true
+  // for a sheet that is too large to be held in memory.
+  book.Sheet("Data1").afterData = book.Sheet("Charts").afterData = "<!--" + S(1 << 20, 'x') + "-->";
+  for (const auto& [damaged, expected] : {std::pair<S, S>{"", "Sheet2"},
+                                          {"xl/worksheets/sheet1.xml", "Data1"},
+                                          {"xl/worksheets/sheet2.xml", "Sheet2"}}) {
+    book.Write(folder_ / "plain.xlsx");
+    if (!damaged.empty()) {
+      S bytes = BytesOf(folder_ / "plain.xlsx");
+      bytes[bytes.find(damaged) - 16] = bytes[bytes.rfind(damaged) - 30] = 77;
+      std::ofstream(folder_ / "plain.xlsx", std::ios::binary) << bytes;
+    }
+    OpenFile(folder_ / "plain.xlsx");
+    for (const std::size_t position : {std::size_t{0}, std::size_t{1}}) {
+      Book().AddWorksheet(position);
+      SaveAndReopen();
+    }
+    S tabs;
+    for (const char* name : {"Data1", "Charts", "Sheet1", "Sheet2"}) {
+      if (Sheet(name)->View().selected) tabs += name;
+    }
+    EXPECT_EQ(tabs, expected) << damaged;
+    EXPECT_EQ(Book().ActiveSheet()->Name(), expected) << damaged;
+  }
 }
 
 TEST_F(ForeignBookTest, ADamagedDrawingAffectsOnlyItsSheet) {

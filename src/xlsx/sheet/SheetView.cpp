@@ -42,6 +42,7 @@ SheetView ReadSheetView(Archive::Stream& part) {
       inView = true;
       view.gridLines = BooleanIn(tag.attributes, kShowGridLines.name, kShowGridLines.ifAbsent);
       view.headings = BooleanIn(tag.attributes, kShowHeadings.name, kShowHeadings.ifAbsent);
+      view.selected = BooleanIn(tag.attributes, kTabSelected.name, kTabSelected.ifAbsent);
       view.topLeft = CellIn(tag.attributes, "topLeftCell", view.topLeft);
       if (tag.kind == XmlStream::Kind::kEmpty) break;
     } else if (inView && tag.name == "pane") {

@@ -13,6 +13,7 @@ struct SheetView {
   CellPlace activeCell{1, 1};  ///< The active cell.
   /// The number of rows at the top, and of columns at the left, that don't scroll.
   std::int32_t frozenRows = 0, frozenColumns = 0;
+  bool selected = false;  ///< Whether the tab of the sheet is selected.
 
   bool operator==(const SheetView&) const = default;
 };

@@ -15,8 +15,9 @@ S ViewText(const SheetView& view) {
   const auto cell = [](const CellPlace& place) {
     return " " + std::to_string(place.row) + "," + std::to_string(place.column);
   };
-  return S(view.gridLines ? "lines " : "") + (view.headings ? "heads" : "") + cell(view.topLeft) +
-         cell(view.activeCell) + cell({view.frozenRows, view.frozenColumns});
+  return S(view.gridLines ? "lines " : "") + (view.headings ? "heads" : "") +
+         (view.selected ? " selected" : "") + cell(view.topLeft) + cell(view.activeCell) +
+         cell({view.frozenRows, view.frozenColumns});
 }
 
 TEST(SheetViewTest, ReadsTheViewOfTheFirstWindow) {
@@ -29,6 +30,9 @@ TEST(SheetViewTest, ReadsTheViewOfTheFirstWindow) {
       {"<sheetViews><sheetView showGridLines=\"0\" showRowColHeaders=\"false\" "
        "topLeftCell=\"C9\"/></sheetViews>",
        {false, false, {9, 3}, {1, 1}, 0, 0}},
+      {"<sheetViews><sheetView tabSelected=\"1\"/><sheetView tabSelected=\"0\"/></sheetViews>",
+       {true, true, {1, 1}, {1, 1}, 0, 0, true}},
+      {"<sheetViews><sheetView tabSelected=\"false\"/><sheetView tabSelected=\"1\"/></sheetViews>", {}},
       {"<x:sheetViews><x:sheetView><x:selection activeCell=\"B7\" "
        "sqref=\"A1:B7\"/></x:sheetView></x:sheetViews>",
        {true, true, {1, 1}, {7, 2}, 0, 0}},
