@@ -150,6 +150,28 @@ TEST_F(DeletedChartTest, PartsOfADeletedChartAreRemoved) {
   }
 }
 
+TEST_F(DeletedChartTest, TheLastUserOfARelationshipRemovesIt) {
+  struct Step {
+    S deleted;   ///< The name of a shape.
+    S idsAfter;  ///< The ids of the drawing's relationships after that, each with a blank after it.
+  };
+  const std::vector<Step> cases[] = {
+      {{"Chart 1", "rId1 rId8 rId9 "}, {"Photo", "rId1 rId8 "}, {"Chart 2", "rId8 "}, {"Logo", ""}},
+      {{"Logo", "rId1 rId9 "}, {"Chart 2", "rId1 rId9 "}, {"Chart 1", "rId9 "}, {"Photo", ""}}};
+  for (const auto& steps : cases) {
+    OpenCharts(Link("rId1", "chart", "../charts/chart1.xml") + kImages, "rId1");
+    const S complaints = PackageComplaints(folder_ / "book.xlsx");
+    for (const Step& step : steps) {
+      Shape(step.deleted)->Delete();
+      S ids;
+      for (const Relationship& link : Book().Package().Relationships(kDrawing2)) ids += link.id + " ";
+      EXPECT_EQ(ids, step.idsAfter) << step.deleted;
+    }
+    SaveAndReopen();
+    EXPECT_EQ(PackageComplaints(folder_ / "saved.xlsx"), complaints);
+  }
+}
+
 TEST_F(DeletedChartTest, ObjectsOfADeletedChartRaiseErrors) {
   OpenCharts();
   const auto shape = Shape("Chart 1");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <pugixml.hpp>
 #include <set>
 #include <string>
@@ -32,18 +33,20 @@ class AnchoredShapes {
   /// Removes a shape and its anchor from the drawing, and the relationships that no other shape uses.
   void Remove(DrawnShape& shape) {
     pugi::xml_node anchor = shape.Anchor();
-    std::set<std::string> ids = xml::RelationshipIdsIn(anchor);
+    const std::set<std::string> unused = ReleaseIds(anchor);
     std::erase_if(shapes_, [&](const auto& other) { return other.get() == &shape; });
     anchor.parent().remove_child(anchor);
     shape.Leave();
     changed_ = true;
-    if (part_.empty() || ids.empty()) return;
-    for (const std::string& used : xml::RelationshipIdsIn(xml::Root(document_))) ids.erase(used);
-    RemoveRelationships(ids);
+    if (!part_.empty() && !unused.empty()) RemoveRelationships(unused);
   }
 
-  /// Notes that the drawing must be written.
-  void MarkChanged() { changed_ = true; }
+  /// Notes that the drawing must be written. This must be called after each change of the document except
+  /// Remove.
+  void MarkChanged() {
+    changed_ = true;
+    usedIds_.reset();
+  }
   /// Returns true if the drawing was changed.
   bool Changed() const { return changed_; }
 
@@ -65,6 +68,21 @@ class AnchoredShapes {
   pugi::xml_document document_;                 ///< The contents of the part.
   std::vector<std::shared_ptr<Shape>> shapes_;  ///< The shapes from back to front.
   bool changed_ = false;                        ///< Whether the part must be written.
+
+ private:
+  /// Returns the relationships that only this anchor uses, and counts it no longer.
+  std::set<std::string> ReleaseIds(pugi::xml_node anchor) {
+    if (!usedIds_) usedIds_ = xml::RelationshipIdsIn(xml::Root(document_));
+    const std::multiset<std::string> ids = xml::RelationshipIdsIn(anchor);
+    for (const std::string& id : ids) usedIds_->extract(id);
+    std::set<std::string> unused(ids.begin(), ids.end());
+    std::erase_if(unused, [this](const std::string& id) { return usedIds_->contains(id); });
+    return unused;
+  }
+
+  /// The ids that the document uses, once for each use. They are collected at the first removal and kept,
+  /// because collecting them for each of many shapes would take quadratic time.
+  std::optional<std::multiset<std::string>> usedIds_;
 };
 
 }  // namespace plotsmith::xlsx

@@ -388,8 +388,8 @@ std::string RelationshipId(pugi::xml_node node) {
   return {};
 }
 
-std::set<std::string> RelationshipIdsIn(pugi::xml_node element) {
-  std::set<std::string> ids;
+std::multiset<std::string> RelationshipIdsIn(pugi::xml_node element) {
+  std::multiset<std::string> ids;
   for (const pugi::xml_attribute& attribute : element.attributes()) {
     const std::string_view prefix = Prefix(attribute.name());
     if (!prefix.empty() && prefix != "xmlns:") ids.insert(Decode(attribute.value()));

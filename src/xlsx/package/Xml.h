@@ -87,8 +87,9 @@ void SetAttribute(pugi::xml_node node, const char* name, std::string_view value)
 /// Returns the value of the attribute r:id, with any prefix; empty if it is absent.
 std::string RelationshipId(pugi::xml_node node);
 /// Returns the values of all attributes with a prefix, of an element and of the elements inside it. The ids
-/// of relationships are among them (r:id, r:embed, r:link).
-std::set<std::string> RelationshipIdsIn(pugi::xml_node element);
+/// of relationships are among them (r:id, r:embed, r:link). Each attribute counts, so a value can be
+/// repeated.
+std::multiset<std::string> RelationshipIdsIn(pugi::xml_node element);
 
 /// Returns the decoded text directly inside an element.
 std::string Text(pugi::xml_node node);

@@ -148,7 +148,7 @@ std::shared_ptr<ChartShape> ChartDrawing::Group(const std::vector<std::shared_pt
     std::erase(shapes_, member);
     member->Leave();
   }
-  changed_ = true;
+  MarkChanged();
   return group;
 }
 
