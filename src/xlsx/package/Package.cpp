@@ -19,6 +19,8 @@
 #include "xlsx/package/PartNames.h"
 #include "xlsx/package/WorkbookKind.h"
 #include "xlsx/package/Xml.h"
+#include "xlsx/package/XmlStream.h"
+#include "xlsx/package/XmlTags.h"
 
 namespace plotsmith::xlsx {
 namespace {
@@ -134,10 +136,13 @@ void Package::ParseContentTypes(std::string_view bytes) {
   xml::Parse(*contentTypes_, bytes);
   overrides_.clear();
   defaults_.clear();
-  for (const pugi::xml_node& type : xml::Root(*contentTypes_).children()) {
-    // The first override of a part counts.
-    if (xml::Is(type, "Override")) overrides_.emplace(PartNameOf(type), type);
-    if (xml::Is(type, "Default")) defaults_.emplace(ascii::Lower(xml::Attribute(type, "Extension")), type);
+  pugi::xml_node types = xml::Root(*contentTypes_);
+  for (const pugi::xml_node& type : xml::Children(types, "Override")) {
+    // The first override of a part counts. The others are removed, so that none outlives the part.
+    if (!overrides_.emplace(PartNameOf(type), type).second) types.remove_child(type);
+  }
+  for (const pugi::xml_node& type : xml::Children(types, "Default")) {
+    defaults_.emplace(ascii::Lower(xml::Attribute(type, "Extension")), type);
   }
 }
 
@@ -256,11 +261,8 @@ void Package::SetContentType(std::string_view part, std::string_view contentType
 
 void Package::Remove(const std::string& part) {
   const std::string key = ascii::Lower(part);
-  if (overrides_.erase(key) > 0) {
-    pugi::xml_node types = xml::Root(*contentTypes_);
-    for (pugi::xml_node type : xml::Children(types, "Override")) {
-      if (PartNameOf(type) == key) types.remove_child(type);
-    }
+  if (const auto type = overrides_.extract(key)) {
+    xml::Root(*contentTypes_).remove_child(type.mapped());
     contentTypesChanged_ = true;
   }
   // A part that is later added with the same name gets its own relationships.
@@ -364,8 +366,12 @@ std::set<std::string> Package::OnlyThrough(const std::string& part) const {
     }
   };
   keepTargetsOf("");
-  for (const auto& source : parts_) {
-    if (!IsBookkeeping(source->name) && !closure.contains(source->name)) keepTargetsOf(source->name);
+  for (const auto& links : parts_) {
+    const std::string name = RelationshipsSource(links->name);
+    const Part* const source = name.empty() ? nullptr : Find(name);
+    if (source != nullptr && !IsBookkeeping(source->name) && !closure.contains(source->name)) {
+      keepTargetsOf(source->name);
+    }
   }
   return gone;
 }
@@ -374,16 +380,20 @@ std::vector<std::string> Package::RemoveRelationship(std::string_view source, st
   const auto link = FindRelationship(source, id);
   if (!link) return {};
   const std::string rels = RelationshipsPart(source);
-  pugi::xml_document document;
-  xml::Parse(document, Read(rels));
-  pugi::xml_node root = xml::Root(document);
-  for (pugi::xml_node node : xml::Children(root, "Relationship")) {
-    if (xml::Attribute(node, "Id") == id) root.remove_child(node);
-  }
-  if (xml::Child(root, "Relationship")) {
-    Replace(rels, xml::Serialize(document));
-  } else {
+  std::vector<Relationship>& known = relationships_.find(ascii::Lower(rels))->second;
+  std::erase_if(known, [&](const Relationship& other) { return other.id == id; });
+  if (known.empty()) {
     Remove(rels);
+  } else {
+    // A drawing can have thousands of relationships. They are changed as text and not read again, because
+    // parsing them for each deleted chart would take long.
+    std::vector<Relationship> others = std::move(known);
+    std::string text = xml::ToUtf8(Read(rels));
+    RemoveChildren(text, NextTag(text, 0)->span.end, [&](const XmlTag& tag) {
+      return xml::LocalName(tag.name) == "Relationship" && AttributeIn(tag.attributes, "Id") == id;
+    });
+    Replace(rels, std::move(text));
+    relationships_[ascii::Lower(rels)] = std::move(others);
   }
   if (link->external || !Has(link->target) || IsBookkeeping(link->target)) return {};
   std::set<std::string> gone;

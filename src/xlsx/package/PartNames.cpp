@@ -3,11 +3,17 @@
 #include <algorithm>
 #include <vector>
 
+#include "runtime/Ascii.h"
+
 namespace plotsmith::xlsx {
 namespace {
 
 /// Returns the folder of a part, including its slash at the end.
 std::string_view Folder(std::string_view part) { return part.substr(0, part.rfind('/') + 1); }
+
+bool EndsWithIgnoringCase(std::string_view text, std::string_view lower) {
+  return text.size() >= lower.size() && ascii::Lower(text.substr(text.size() - lower.size())) == lower;
+}
 
 }  // namespace
 
@@ -15,6 +21,17 @@ std::string RelationshipsPart(std::string_view part) {
   if (part.empty()) return "/_rels/.rels";
   const std::string_view folder = Folder(part);
   return std::string(folder) + "_rels/" + std::string(part.substr(folder.size())) + ".rels";
+}
+
+std::string RelationshipsSource(std::string_view part) {
+  constexpr std::string_view kFolder = "_rels/", kExtension = ".rels";
+  if (!EndsWithIgnoringCase(part, kExtension)) return {};
+  std::string_view folder = Folder(part);
+  if (!EndsWithIgnoringCase(folder, "/_rels/")) return {};
+  std::string_view name = part.substr(folder.size());
+  folder.remove_suffix(kFolder.size());
+  name.remove_suffix(kExtension.size());
+  return std::string(folder) + std::string(name);
 }
 
 std::string PercentDecoded(std::string_view coded) {

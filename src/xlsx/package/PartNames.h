@@ -10,6 +10,9 @@ namespace plotsmith::xlsx {
 /// Returns the name of the part with the relationships of a part, or of the package for an empty name.
 /// "/xl/workbook.xml" has its relationships in "/xl/_rels/workbook.xml.rels".
 std::string RelationshipsPart(std::string_view part);
+/// Returns the name of the part whose relationships are in `part`; empty if `part` contains none. The
+/// relationships of the package have the source "/".
+std::string RelationshipsSource(std::string_view part);
 
 /// Returns the name that a file stores with percent-encoded characters.
 std::string PercentDecoded(std::string_view coded);

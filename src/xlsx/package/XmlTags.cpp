@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "xlsx/package/MemoryStream.h"
+#include "xlsx/package/PackageError.h"
 #include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"
 
@@ -41,6 +42,29 @@ std::optional<XmlTag> NextTag(std::string_view text, std::size_t from) {
     return tag;
   }
   return std::nullopt;
+}
+
+XmlTag FindChild(std::string_view text, std::size_t from, const std::function<bool(const XmlTag&)>& wanted) {
+  int depth = 0;
+  for (auto tag = NextTag(text, from); tag; tag = NextTag(text, tag->span.end)) {
+    if (depth == 0 && (tag->kind == XmlTag::Kind::kEnd || wanted(*tag))) return *tag;
+    if (tag->kind == XmlTag::Kind::kStart) ++depth;
+    if (tag->kind == XmlTag::Kind::kEnd) --depth;
+  }
+  throw PackageError("its XML is damaged");
+}
+
+void RemoveChildren(std::string& text, std::size_t from, const std::function<bool(const XmlTag&)>& wanted) {
+  for (;;) {
+    const XmlTag tag = FindChild(text, from, wanted);
+    if (tag.kind == XmlTag::Kind::kEnd) return;
+    TextSpan child = tag.span;
+    if (tag.kind == XmlTag::Kind::kStart) {
+      child.end = FindChild(text, child.end, [](const XmlTag&) { return false; }).span.end;
+    }
+    text.erase(child.begin, child.end - child.begin);
+    from = child.begin;
+  }
 }
 
 TextSpan FindAttribute(std::string_view text, const XmlTag& tag, std::string_view name) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -32,6 +33,13 @@ struct XmlTag {
 /// Returns the next tag at or after a position. Comments, processing instructions and character data are
 /// skipped.
 std::optional<XmlTag> NextTag(std::string_view text, std::size_t from);
+
+/// Returns the tag of the first wanted child of an element; `from` is a position between the element's
+/// children. If there is none, returns the element's end tag. Throws PackageError if the element doesn't end.
+XmlTag FindChild(std::string_view text, std::size_t from, const std::function<bool(const XmlTag&)>& wanted);
+
+/// Removes the wanted children of an element from the position `from` on.
+void RemoveChildren(std::string& text, std::size_t from, const std::function<bool(const XmlTag&)>& wanted);
 
 /// Returns the span of an attribute of a tag, from the space before it to the end of its closing quote.
 TextSpan FindAttribute(std::string_view text, const XmlTag& tag, std::string_view name);

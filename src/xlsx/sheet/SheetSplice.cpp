@@ -24,19 +24,6 @@ std::optional<XmlTag> FindInHead(std::string_view text, std::string_view local) 
   return std::nullopt;
 }
 
-/// Finds the first child of the root, from the position `from` on, whose local name satisfies `wanted`. If
-/// there is none, returns the root's end tag.
-template <class Wanted>
-XmlTag FindChild(std::string_view text, std::size_t from, const Wanted& wanted) {
-  int depth = 0;
-  for (auto tag = NextTag(text, from); tag; tag = NextTag(text, tag->span.end)) {
-    if (depth == 0 && (tag->kind == XmlTag::Kind::kEnd || wanted(xml::LocalName(tag->name)))) return *tag;
-    if (tag->kind == XmlTag::Kind::kStart) ++depth;
-    if (tag->kind == XmlTag::Kind::kEnd) --depth;
-  }
-  throw PackageError("its XML is damaged");
-}
-
 /// Finds the whole sheetData element and its prefix.
 std::pair<TextSpan, std::string> FindSheetData(std::string_view text) {
   const auto tag = FindInHead(text, "sheetData");
@@ -64,7 +51,8 @@ TextSpan PlaceOfAttribute(std::string_view part, const XmlTag& view, std::string
 void InsertView(std::string& part, const std::string& attribute) {
   const auto root = NextTag(part, 0);
   if (!root || root->kind != XmlTag::Kind::kStart) throw PackageError(kNoCells);
-  const XmlTag behind = FindChild(part, root->span.end, [](std::string_view local) {
+  const XmlTag behind = FindChild(part, root->span.end, [](const XmlTag& tag) {
+    const std::string_view local = xml::LocalName(tag.name);
     return local == "sheetFormatPr" || local == "cols" || local == "sheetData";
   });
   if (behind.kind == XmlTag::Kind::kEnd) throw PackageError(kNoCells);
@@ -92,8 +80,8 @@ void InsertDrawingLink(std::string& part, std::string_view relationships, std::s
       "legacyDrawing", "legacyDrawingHF", "drawingHF",  "picture", "oleObjects",
       "controls",      "webPublishItems", "tableParts", "extLst",  "AlternateContent"};
   const auto [data, prefix] = FindSheetData(part);
-  const XmlTag behind = FindChild(part, data.end, [](std::string_view local) {
-    return std::find(kBehind.begin(), kBehind.end(), local) != kBehind.end();
+  const XmlTag behind = FindChild(part, data.end, [](const XmlTag& tag) {
+    return std::find(kBehind.begin(), kBehind.end(), xml::LocalName(tag.name)) != kBehind.end();
   });
   part.insert(behind.span.begin, "<" + prefix + "drawing xmlns:r=\"" + std::string(relationships) +
                                      "\" r:id=\"" + xml::EncodeAttribute(id) + "\"/>");
