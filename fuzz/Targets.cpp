@@ -116,7 +116,7 @@ void Sheet(const std::uint8_t* data, std::size_t size) {
   shifts.Add("Sheet1", 3, 2);
   std::string part(text);
   xlsx::ShiftSheetFormulas(part, "Home", shifts);
-  Tolerate([&] { xlsx::InsertDrawingLink(part = text, "r", "rId1"); });
+  Tolerate([&] { xlsx::SetDrawingLink(part = text, "r", "rId1"); });
   Tolerate([&] {
     xlsx::ReplaceSheetData(part = text, [](const std::string&) { return "x"; }, {1, 1, 2, 2});
   });

@@ -351,6 +351,7 @@ SheetDrawing* Worksheet::FindDrawing() {
       if (!link) return;
       try {
         drawing_ = std::make_unique<SheetDrawing>(*this, link->target);
+        drawingId_ = link->id;
       } catch (const PackageError& e) {
         // A drawing that can't be read raises an error only if it may contain a chart. Without the error, the
         // system would treat a chart that it doesn't find as deleted.
@@ -364,21 +365,29 @@ SheetDrawing* Worksheet::FindDrawing() {
 }
 
 SheetDrawing& Worksheet::EnsureDrawing() {
-  if (SheetDrawing* drawing = FindDrawing()) return *drawing;
+  if (FindDrawing() == nullptr) MakeDrawing();
+  LinkDrawing();
+  return *drawing_;
+}
+
+void Worksheet::MakeDrawing() {
   if (drawingDamage_) {
     throw Refusal("The drawing can't be read: " + *drawingDamage_ + ".");
   }
   auto& package = book_.Package();
   const std::string part = package.FreeName(book_.Folder() + "drawings/drawing", ".xml");
   package.Add(part, content_type::kDrawing, EmptyDrawing(book_.IsStrict()));
-  const std::string id =
-      package.AddRelationship(Entry().part, book_.Vocabulary().RelationshipType("drawing"), part);
+  drawingId_ = package.AddRelationship(Entry().part, book_.Vocabulary().RelationshipType("drawing"), part);
+  drawing_ = std::make_unique<SheetDrawing>(*this, part);
+}
+
+void Worksheet::LinkDrawing() {
+  if (Contents().drawing == drawingId_) return;
   ChangePart([&](std::string& text) {
-    InsertDrawingLink(text, book_.Vocabulary().relationships, id);
+    SetDrawingLink(text, book_.Vocabulary().relationships, drawingId_);
     return true;
   });
-  drawing_ = std::make_unique<SheetDrawing>(*this, part);
-  return *drawing_;
+  contents_->drawing = drawingId_;
 }
 
 void Worksheet::SetView(const ViewSetting& setting, bool value) {

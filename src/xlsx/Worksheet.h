@@ -114,6 +114,10 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   /// Discards the keys of cells that are about to change.
   void ForgetKeys(const CellRange& range);
 
+  /// Makes an empty drawing.
+  void MakeDrawing();
+  /// Makes the `drawing` element refer to the drawing. A program shows no drawing without this element.
+  void LinkDrawing();
   /// Changes the XML of the part immediately. `change` returns true if it has changed something. If the part
   /// lacks an element that the change needs, the workbook is damaged.
   void ChangePart(const std::function<bool(std::string& text)>& change);
@@ -127,6 +131,7 @@ class Worksheet final : public SheetMembers<excel::Worksheet>,
   std::optional<SheetGeometry> geometry_;
   std::optional<CellPlace> activeCell_;  ///< set since the file was read
   std::unique_ptr<SheetDrawing> drawing_;
+  std::string drawingId_;  ///< the id of the relationship to the drawing
   bool drawingSought_ = false;
   std::optional<std::string> drawingDamage_;  ///< why the sheet's drawing can't be read
   std::optional<ColumnKeys> keys_;            ///< of grid_, for the column of the last text search

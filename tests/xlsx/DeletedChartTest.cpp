@@ -33,6 +33,10 @@ S Picture(const S& name, const S& id) {
          "\"/></xdr:blipFill><xdr:spPr/></xdr:pic><xdr:clientData/></xdr:absoluteAnchor>";
 }
 
+const S kPrefix = "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"";
+
+S DrawingElement(const S& id) { return "<drawing " + kPrefix + " r:id=\"" + id + "\"/>"; }
+
 class DeletedChartTest : public test::HostTest {
  protected:
   /// Opens a workbook with two charts and two pictures on a sheet. The first chart has its own parts, as
@@ -270,11 +274,11 @@ TEST_F(DeletedChartTest, ANewChartGetsItsDrawingOnSheetsOfOtherPrograms) {
     S behind;  ///< The elements after the cells. "@" marks the position of the drawing.
     S links;
   };
-  const S r = "xmlns:r=\"http://schemas.openxmlformats.org/officeDocument/2006/relationships\"";
   const Case cases[] = {
       {"openpyxl",
-       "<pageMargins left=\"0.75\"/>@<legacyDrawing " + r +
-           " r:id=\"anysvml\"/><tableParts count=\"1\"><tablePart " + r + " r:id=\"rId1\"/></tableParts>",
+       "<pageMargins left=\"0.75\"/>@<legacyDrawing " + kPrefix +
+           " r:id=\"anysvml\"/><tableParts count=\"1\"><tablePart " + kPrefix +
+           " r:id=\"rId1\"/></tableParts>",
        Link("anysvml", "vmlDrawing", "/xl/drawings/legacy.bin") + Link("rId1", "table", "/xl/tables/t.bin")},
       {"XlsxWriter",
        "<pageMargins left=\"0.7\"/><pageSetup orientation=\"portrait\" r:id=\"rId1\"/>"
@@ -304,9 +308,53 @@ TEST_F(DeletedChartTest, ANewChartGetsItsDrawingOnSheetsOfOtherPrograms) {
     ASSERT_TRUE(link);
     const auto at = c.behind.find('@');
     const auto place = before.find("</sheetData>") + S("</sheetData>").size() + at;
-    EXPECT_EQ(SavedPart("/xl/worksheets/sheet1.xml"), before.substr(0, place) + "<drawing " + r + " r:id=\"" +
-                                                          link->id + "\"/>" + before.substr(place));
+    EXPECT_EQ(SavedPart("/xl/worksheets/sheet1.xml"),
+              before.substr(0, place) + DrawingElement(link->id) + before.substr(place));
     EXPECT_EQ(Book().FindWorksheet("Data1")->ChartObjects()->Count(), 1);
+  }
+}
+
+TEST_F(DeletedChartTest, TheSheetOfANewChartHasOneDrawingElement) {
+  const S rels = "/xl/worksheets/_rels/sheet1.xml.rels", sheet = "/xl/worksheets/sheet1.xml";
+  const S empty =
+      "<xdr:wsDr xmlns:xdr=\"http://schemas.openxmlformats.org/drawingml/2006/spreadsheetDrawing\"/>";
+  const S link = Link("rId4", "drawing", "../drawings/drawing7.xml");
+  const S merged = "<mergeCells count=\"1\"><mergeCell ref=\"A8:B8\"/></mergeCells>";
+  const S other = "<x:drawing " + kPrefix +
+                  " xmlns:x=\"http://schemas.openxmlformats.org/spreadsheetml/2006/main\" "
+                  "r:id='rId4'></x:drawing>";
+  const struct {
+    const char* about;
+    S links;          ///< The relationships of the sheet; empty if it has none.
+    S before, after;  ///< The elements after the cells.
+  } cases[] = {
+      {"an element without a relationship", "", DrawingElement("rId9"), DrawingElement("rId1")},
+      {"an element at its place", "", merged + "<pageMargins/>" + DrawingElement("rId9") + "<extLst/>",
+       merged + "<pageMargins/>" + DrawingElement("rId1") + "<extLst/>"},
+      {"a relationship without an element", link, "<pageMargins/><extLst/>",
+       "<pageMargins/>" + DrawingElement("rId4") + "<extLst/>"},
+      {"an element with another id", link, DrawingElement("rId1"), DrawingElement("rId4")},
+      {"two elements", link, DrawingElement("rId1") + other, DrawingElement("rId4")},
+      {"an element with the id", link, merged + other, merged + other},
+      {"an element after other elements", link, "<pageMargins/>" + other + "<extLst/>",
+       "<pageMargins/>" + other + "<extLst/>"}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.about);
+    test::PlainBook book = test::SalesBook({});
+    book.sheets[0].afterData = c.before;
+    if (!c.links.empty())
+      book.extraParts = {{rels.substr(1), Links(c.links)}, {"xl/drawings/drawing7.xml", empty}};
+    Open(book);
+    const S before = Book().Package().Read(sheet);
+    for (int chart = 0; chart < 2; ++chart) {
+      Book().FindWorksheet("Data1")->ChartObjects()->Add(10, 10, 100, 100);
+    }
+    SaveAndReopen();
+    EXPECT_EQ(PackageComplaints(folder_ / "saved.xlsx"), "");
+    EXPECT_EQ(Book().Package().Relationships(sheet).size(), 1u);
+    EXPECT_EQ(SavedPart(sheet),
+              runtime::Replace(before, c.before + "</worksheet>", c.after + "</worksheet>"));
+    EXPECT_EQ(Book().FindWorksheet("Data1")->ChartObjects()->Count(), 2);
   }
 }
 

@@ -202,6 +202,13 @@ std::string AttributeIn(std::string_view attributes, std::string_view name) {
   return {};
 }
 
+std::string RelationshipIdIn(std::string_view attributes) {
+  while (const auto attribute = TakeAttribute(attributes)) {
+    if (xml::LocalName(attribute->name) == "id") return xml::Decode(attribute->value);
+  }
+  return {};
+}
+
 bool BooleanIn(std::string_view attributes, std::string_view name, bool fallback) {
   return xml::ParseBoolean(AttributeIn(attributes, name)).value_or(fallback);
 }

@@ -91,6 +91,9 @@ std::optional<XmlAttribute> TakeAttribute(std::string_view& attributes);
 /// Returns the decoded value of an attribute; empty if it is absent. `attributes` is the text between a tag's
 /// name and its end.
 std::string AttributeIn(std::string_view attributes, std::string_view name);
+/// Returns the decoded value of the attribute r:id, with any prefix; empty if it is absent. `attributes` is
+/// the text between a tag's name and its end.
+std::string RelationshipIdIn(std::string_view attributes);
 /// Returns the value of a Boolean attribute; `fallback` if it is absent or isn't a Boolean. `attributes` is
 /// the text between a tag's name and its end.
 bool BooleanIn(std::string_view attributes, std::string_view name, bool fallback = false);

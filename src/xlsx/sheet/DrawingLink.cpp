@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "xlsx/package/Xml.h"
 #include "xlsx/package/XmlStream.h"
 
 namespace plotsmith::xlsx {
@@ -19,11 +18,8 @@ std::optional<Relationship> FindDrawingLink(const Package& package, const std::s
     const XmlStream::Tag tag = stream.Next();
     if (tag.kind == XmlStream::Kind::kEndOfInput) return std::nullopt;
     if (tag.name != "drawing" || tag.kind == XmlStream::Kind::kEnd) continue;
-    for (std::string_view rest = tag.attributes; const auto attribute = TakeAttribute(rest);) {
-      if (xml::LocalName(attribute->name) != "id") continue;
-      const auto link = package.FindRelationship(sheet, xml::Decode(attribute->value));
-      return link && isDrawing(*link) ? link : std::nullopt;
-    }
+    const auto link = package.FindRelationship(sheet, RelationshipIdIn(tag.attributes));
+    return link && isDrawing(*link) ? link : std::nullopt;
   }
 }
 

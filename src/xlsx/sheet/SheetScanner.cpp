@@ -58,7 +58,7 @@ class SheetScanner : public XmlStream {
 
   SheetContents Scan() {
     if (ReadHead()) ReadRows();
-    ReadMergedCells();
+    ReadDrawing(ReadMergedCells());
     Drain();
     if (used_.row2 > 0) contents_.used = used_;
     return std::move(contents_);
@@ -77,7 +77,8 @@ class SheetScanner : public XmlStream {
 
   bool ReadHead();
   void ReadRows();
-  void ReadMergedCells();
+  Tag ReadMergedCells();
+  void ReadDrawing(Tag tag);
   /// Reads the cell, or the row's start tag, at `p`, and returns the position after it. Returns null and
   /// reads nothing if it doesn't have the plain form or isn't completely in the window.
   const char* TakePlainCell(const char* p);
@@ -195,17 +196,17 @@ void SheetScanner::ReadRows() {
 }
 
 /// Reads from the end of the cells up to the first element that follows `mergeCells` in the schema
-/// (CT_Worksheet).
-void SheetScanner::ReadMergedCells() {
+/// (CT_Worksheet). Returns the first tag behind the merged cells.
+SheetScanner::Tag SheetScanner::ReadMergedCells() {
   static constexpr std::array<std::string_view, 10> kUpToMergedCells = {
       "sheetCalcPr", "sheetProtection", "protectedRanges",  "scenarios",  "autoFilter",
       "sortState",   "dataConsolidate", "customSheetViews", "mergeCells", "mergeCell"};
   for (;;) {
     const Tag tag = Next();
-    if (tag.kind == Kind::kEnd && tag.name == "mergeCells") return;
+    if (tag.kind == Kind::kEnd && tag.name == "mergeCells") return Next();
     if (tag.kind == Kind::kEnd) continue;
     if (std::find(kUpToMergedCells.begin(), kUpToMergedCells.end(), tag.name) == kUpToMergedCells.end())
-      return;
+      return tag;
     if (tag.name == "mergeCell") {
       if (const auto range = ParseA1(AttributeIn(tag.attributes, "ref")))
         contents_.mergedCells.push_back(*range);
@@ -213,6 +214,12 @@ void SheetScanner::ReadMergedCells() {
       SkipElement();
     }
   }
+}
+
+/// Reads from `tag` on up to the drawing.
+void SheetScanner::ReadDrawing(Tag tag) {
+  while (tag.kind != Kind::kEndOfInput && tag.name != "drawing") tag = Next();
+  if (tag.kind != Kind::kEndOfInput) contents_.drawing = RelationshipIdIn(tag.attributes);
 }
 
 bool SheetScanner::At(const char*& p, std::string_view name) const {

@@ -28,6 +28,8 @@ struct SheetContents {
   std::vector<std::pair<std::int32_t, double>> rowHeights;
   /// Merged cells, in the order of the file.
   std::vector<CellRange> mergedCells;
+  /// The id of the relationship in the `drawing` element; empty if there is no such element.
+  std::string drawing;
 };
 
 /// Reads a sheet in one pass. Throws PackageError.

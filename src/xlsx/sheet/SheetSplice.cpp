@@ -75,11 +75,12 @@ void ReplaceSheetData(std::string& part, const std::function<std::string(const s
   part.replace(ref.begin, ref.end - ref.begin, " ref=\"" + address + "\"");
 }
 
-void InsertDrawingLink(std::string& part, std::string_view relationships, std::string_view id) {
+void SetDrawingLink(std::string& part, std::string_view relationships, std::string_view id) {
   static constexpr std::array<std::string_view, 10> kBehind = {
       "legacyDrawing", "legacyDrawingHF", "drawingHF",  "picture", "oleObjects",
       "controls",      "webPublishItems", "tableParts", "extLst",  "AlternateContent"};
   const auto [data, prefix] = FindSheetData(part);
+  RemoveChildren(part, data.end, [](const XmlTag& tag) { return xml::LocalName(tag.name) == "drawing"; });
   const XmlTag behind = FindChild(part, data.end, [](const XmlTag& tag) {
     return std::find(kBehind.begin(), kBehind.end(), xml::LocalName(tag.name)) != kBehind.end();
   });

@@ -16,9 +16,9 @@ void ReplaceSheetData(std::string& part,
                       const std::function<std::string(const std::string& prefix)>& sheetData,
                       const CellRange& used);
 
-/// Inserts the `drawing` element at its place in the schema (CT_Worksheet). `relationships` is the URI of the
-/// relationships' namespace, and `id` is the id of the relationship.
-void InsertDrawingLink(std::string& part, std::string_view relationships, std::string_view id);
+/// Replaces the `drawing` elements by one element at its place in the schema (CT_Worksheet). `relationships`
+/// is the URI of the relationships' namespace, and `id` is the id of the relationship.
+void SetDrawingLink(std::string& part, std::string_view relationships, std::string_view id);
 
 /// A Boolean attribute of a sheet's view (CT_SheetView).
 struct ViewSetting {

@@ -31,23 +31,31 @@ TEST(SheetSpliceTest, TheDrawingIsInsertedInTheOrderOfTheSchema) {
     const S head = "<worksheet><!-- <sheetData/> --><sheetData><row><c><v>1</v></c></row></sheetData>";
     const auto at = tail.find('@');
     S part = head + tail.substr(0, at) + tail.substr(at + 1);
-    InsertDrawingLink(part, "R", "rId1");
+    SetDrawingLink(part, "R", "rId1");
     EXPECT_EQ(part, head + tail.substr(0, at) + drawing + tail.substr(at + 1));
   }
   for (const char* behind : {"legacyDrawing", "legacyDrawingHF", "drawingHF", "picture", "oleObjects",
                              "controls", "webPublishItems", "tableParts", "extLst", "AlternateContent"}) {
     const S start = "<worksheet><sheetData/><pageMargins/>", end = "<" + S(behind) + "/></worksheet>";
     S part = start + end;
-    InsertDrawingLink(part, "R", "rId1");
+    SetDrawingLink(part, "R", "rId1");
+    EXPECT_EQ(part, start + drawing + end);
+  }
+  // The elements of other drawings are removed.
+  for (const S& old : {S("<drawing r:id='a'/>"), S("<x:drawing><!-- </x:drawing> --></x:drawing>"),
+                       S("<drawing/><drawing><a></a><b/></drawing>")}) {
+    const S start = "<worksheet><sheetData/><pageMargins/>", end = "<extLst><drawing/></extLst></worksheet>";
+    S part = start + old + end;
+    SetDrawingLink(part, "R", "rId1");
     EXPECT_EQ(part, start + drawing + end);
   }
   S prefixed = "<x:worksheet><x:sheetData/><x:extLst/></x:worksheet>";
-  InsertDrawingLink(prefixed, "R", "a&b");
+  SetDrawingLink(prefixed, "R", "a&b");
   EXPECT_EQ(prefixed,
             "<x:worksheet><x:sheetData/><x:drawing xmlns:r=\"R\" r:id=\"a&amp;b\"/><x:extLst/>"
             "</x:worksheet>");
   for (S damaged : {"<worksheet/>", "<worksheet><sheetData>", "<worksheet><sheetData/><a>", ""}) {
-    EXPECT_THROW(InsertDrawingLink(damaged, "R", "rId1"), PackageError);
+    EXPECT_THROW(SetDrawingLink(damaged, "R", "rId1"), PackageError);
   }
 }
 
