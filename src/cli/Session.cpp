@@ -238,12 +238,24 @@ int Session::ReportMessages() {
   return desktop_->Messages().empty() ? exit_code::kDone : exit_code::kDoneWithMessages;
 }
 
-int Session::Save(const std::optional<std::string>& output) {
+std::vector<std::string> Session::EndRun() {
   std::vector<std::string> findings;
   Guard([&] {
     if (check_) findings = check_->Finish();
   });
   FlushOutput(streams_);  // Nothing is changed yet.
+  return findings;
+}
+
+int Session::ReportRun(const std::vector<std::string>& findings) {
+  const int code = ReportMessages();
+  return ReportFindings(findings) ? exit_code::kDoneWithMessages : code;
+}
+
+int Session::Discard() { return ReportRun(EndRun()); }
+
+int Session::Save(const std::optional<std::string>& output) {
+  const std::vector<std::string> findings = EndRun();
   if (output || Book().Changed()) {
     try {
       WriteBook(output);
@@ -252,8 +264,7 @@ int Session::Save(const std::optional<std::string>& output) {
       throw CantSave(output.value_or(path_), e.what());
     }
   }
-  const int code = ReportMessages();
-  return ReportFindings(findings) ? exit_code::kDoneWithMessages : code;
+  return ReportRun(findings);
 }
 
 void Session::WriteBook(const std::optional<std::string>& output) {

@@ -88,6 +88,8 @@ class Session {
   /// Ends the work and saves to `output`; without it, saves to the original file if something has changed.
   /// Returns an exit code.
   int Save(const std::optional<std::string>& output);
+  /// Ends a run without writing the workbook, and reports the same as Save. Returns an exit code.
+  int Discard();
   /// Ends the work of a command that only reads. Returns an exit code.
   int Finish();
 
@@ -108,6 +110,10 @@ class Session {
   void Guard(const std::function<void()>& check) const;
   /// Prints the findings of the checks. Returns false if there are none.
   bool ReportFindings(const std::vector<std::string>& lines) const;
+  /// Ends the checks of a run, before anything is written, and returns their findings.
+  std::vector<std::string> EndRun();
+  /// Prints the messages and the findings of a run. Returns an exit code.
+  int ReportRun(const std::vector<std::string>& findings);
 
   std::string path_;
   GlobalOptions options_;

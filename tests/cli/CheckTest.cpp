@@ -180,7 +180,8 @@ TEST_F(CheckTest, InvisibleCharts) {
   const CommandResult refreshed = RunCommand({"refresh", path});
   EXPECT_EQ(refreshed.code, 3);
   EXPECT_EQ(refreshed.err,
-            "plotsmith: VEX_ChartDefinitions!A3: Another chart on the sheet 'Charts' has the same name, "
+            "plotsmith: VEX_ChartDefinitions!A3 (chart 'Name of VEX_Chart2'): Another chart on the sheet "
+            "'Charts' has the same name, "
             "'CHART 1', and would be drawn in its place; rename one of them in the selection pane.\n"
             "plotsmith: nothing was changed, because 1 definition would be lost; correct this, or use "
             "--drop-broken.\n");

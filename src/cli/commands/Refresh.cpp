@@ -94,7 +94,7 @@ BookResult RefreshCommand::RefreshBook(const BookRun& run, const GlobalOptions& 
   }
   const RefreshCounts counts = session.Counts();
   // A run adds the sheet of the definitions. Without definitions, only that would be saved.
-  int code = hasDefinitions || run.output ? session.Save(run.output) : session.Finish();
+  int code = hasDefinitions || run.output ? session.Save(run.output) : session.Discard();
   if (pictureFolder_) {
     const bool list = !IsStandardOutput(run.output);
     auto writer = std::make_unique<PictureWriter>(PlanOfPictures(), streams, list);

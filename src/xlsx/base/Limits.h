@@ -11,7 +11,8 @@ namespace plotsmith::xlsx::limits {
 inline constexpr std::size_t kPackageEntries = 100'000;
 /// The maximum inflated size, in bytes, of a part that is read piece by piece (a sheet).
 inline constexpr std::uint64_t kStreamedPart = std::uint64_t{8} << 30;
-/// The maximum inflated size, in bytes, of a part that is held in memory (all parts except sheets).
+/// The maximum inflated size, in bytes, of a part that is held in memory. All parts except sheets are
+/// held, and a sheet while its view or its drawing element is changed.
 inline constexpr std::uint64_t kHeldPart = std::uint64_t{512} << 20;
 /// The maximum ratio of inflated to compressed size. The deflate format can reach about 1030; real sheets
 /// stay below 60.
