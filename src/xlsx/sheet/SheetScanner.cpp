@@ -90,7 +90,13 @@ class SheetScanner : public XmlStream {
   const char* ReadCellTag(const char* p, CellTag& tag) const;
   static void SetCellAttribute(char name, std::string_view value, CellTag& tag);
   Piece ReadRareCell(const char* p, const CellTag& tag, std::string_view value, bool formula);
-  const char* PassFormula(const char* p) const;
+  /// Moves from an element's text to the last character of its end tag. Stops before it at the zero byte if
+  /// the window ends first, or at the "<" of character data, a comment or a child, which only ReadRareCell
+  /// reads.
+  static const char* PassEndTag(const char* p);
+  /// Moves from a formula's start tag, after its name, to the last character of the formula. Stops before it
+  /// as PassEndTag does.
+  static const char* PassFormula(const char* p);
   void ReadRow(std::string_view attributes);
   /// Stores a cell. `value` is the text as written, or decoded if `decoded` is true; a null view for an empty
   /// cell.
@@ -351,14 +357,16 @@ SheetScanner::Piece SheetScanner::ReadCell(const char* p) {
       const char* from = ++inner;
       while (*inner != '<' && *inner != '\0') ++inner;
       text = {from, static_cast<std::size_t>(inner - from)};
-      if (inner[0] == '<' && inner[1] != '/' && inner[1] != '\0') return ReadRareCell(p, tag, {}, formula);
-      while (*inner != '>' && *inner != '\0') ++inner;
+      inner = PassEndTag(inner);
+      if (*inner == '<') return ReadRareCell(p, tag, {}, formula);
       if (*inner == '\0') return Piece::kCut;
       p = inner + 1;
     } else if (At(inner, "f")) {
+      inner = PassFormula(inner);
+      if (*inner == '<') return ReadRareCell(p, tag, text, formula);
+      if (*inner == '\0') return Piece::kCut;
       formula = true;
-      p = PassFormula(inner);
-      if (p == nullptr) return Piece::kCut;
+      p = inner + 1;
     } else {
       return ReadRareCell(p, tag, text, formula);
     }
@@ -414,15 +422,16 @@ void SheetScanner::SetCellAttribute(char name, std::string_view value, CellTag& 
   }
 }
 
-/// Returns the position after a formula; null if the window ends first. `p` is after the name in its start
-/// tag.
-const char* SheetScanner::PassFormula(const char* p) const {
-  while (*p != '>' && *p != '\0') ++p;
-  if (*p == '\0') return nullptr;
-  if (p[-1] == '/') return p + 1;
+const char* SheetScanner::PassEndTag(const char* p) {
   while (*p != '<' && *p != '\0') ++p;
+  if (p[0] == '<' && p[1] != '/' && p[1] != '\0') return p;
   while (*p != '>' && *p != '\0') ++p;
-  return *p == '\0' ? nullptr : p + 1;
+  return p;
+}
+
+const char* SheetScanner::PassFormula(const char* p) {
+  while (*p != '>' && *p != '\0') ++p;
+  return *p == '\0' || p[-1] == '/' ? p : PassEndTag(p);
 }
 
 /// Reads a cell with an inline string, character data or an extension. It uses the general reader from `p`

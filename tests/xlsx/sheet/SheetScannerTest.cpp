@@ -69,6 +69,7 @@ const std::string kSheet =
     "</r><rPh><t>no</t></rPh></is></c><c r='E3' s='3'/></row><!-- <row/> --><row r='10'><c r='A10' t='d'>"
     "<v>2020-01-01T12:00:00</v></c><c r='B10'><v><![CDATA[7]]></v><extLst><v>9</v></extLst></c>"
     "<c r='C10' t='inlineStr'><is/></c><c r='D10'><v>x</v></c><c r='E10'><v>123456789012345678</v></c>"
+    "<c r='F10'><f><![CDATA[A1<2]]></f><v>5</v></c>"
     "<c r='AB10'><v>0.1</v></c></row></sheetData><pageMargins/></worksheet>";
 
 TEST(SheetScannerTest, ReadsEveryKindOfCellAtEveryWindowBorder) {
@@ -77,7 +78,7 @@ TEST(SheetScannerTest, ReadsEveryKindOfCellAtEveryWindowBorder) {
     // The used range is independent of the dimension.
     EXPECT_EQ(Dump(sheet),
               "A2=n1 A3=n-0.0025 A10=n43831.5 B3=ta&b\r B10=n7 C2=s12/7 C3=e#N/A D2=b1 D3=trich text "
-              "E3=-/3 E10=n123456789012345680 AB10=n0.1 used $A$2:$AB$10 ht2=30 ht3=0 formulas")
+              "E3=-/3 E10=n123456789012345680 F10=n5 AB10=n0.1 used $A$2:$AB$10 ht2=30 ht3=0 formulas")
         << piece;
     EXPECT_TRUE(sheet.head.ends_with("<dimension ref='A1:ZZ999'/>")) << piece;
   }
@@ -130,6 +131,11 @@ TEST(SheetScannerTest, TheUsualFormOfCellsAndRowsReadsAsTheOthers) {
        R"(<c r="B2" t="inlineStr"><f>1</f><is><t>d</t></is></c><c r="C2" t="str"><f>1</f><v><![CDATA[]]></v></c>)"
        R"(<c r="F2"><is><t>e</t></is></c><c r="D2"><a/><f>1</f><v>5</v></c><c r="E2" t="d"><a/><v>2020-01-02</v></c></row>)",
        "A2=tacA B2=td C2=t D2=n5 E2=n43832 F2=te used $A$2:$F$2 formulas"},
+      // Formulas with character data, comments and children.
+      {R"(<row r="2"><c r="A2"><f><![CDATA[B2<1]]></f><v>5</v></c><c r="B2"><f><!-- > -->1</f><v>6</v></c>)"
+       R"(<c r="C2" t="str"><f>1<![CDATA["a>b"]]></f><v>ab</v></c><c r="D2"><v>7</v><f><![CDATA[1]]></f></c>)"
+       R"(<c r="E2"><f t="array"><!----></f></c><c r="F2" t="b"><f><a/>1</f><v>1</v></c><c r="G2"><v>8</v></c></row>)",
+       "A2=n5 B2=n6 C2=tab D2=n7 F2=b1 G2=n8 used $A$2:$G$2 formulas -E2"},
       // Formulas whose result is empty. For a text, this is a result.
       {R"(<row r="2"><c r="A2"><f>1</f><v/></c><c r="B2"><f>1</f><v></v></c><c r="C2" t="str"><f>a</f><v></v></c>)"
        R"(<c r="D2" t="str"><f>a</f><v/></c></row><row r="4"><c r="C4" s="1"><f t="shared" si="0"/></c></row>)",
