@@ -122,6 +122,16 @@ std::size_t Len(std::string_view text) {
   return units;
 }
 
+std::string_view Left(std::string_view text, std::size_t count) {
+  if (text.size() <= count) return text;  // No character has more UTF-16 units than bytes.
+  std::size_t end = 0;
+  for (std::size_t i = 0, units = 0; i < text.size(); end = i) {
+    units += NextCharacter(text, i) >= 0x10000 ? 2 : 1;
+    if (units > count) break;
+  }
+  return text.substr(0, end);
+}
+
 std::u16string ToUtf16(std::string_view text) {
   std::u16string units;
   units.reserve(text.size());

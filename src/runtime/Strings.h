@@ -24,6 +24,10 @@ std::string_view Trim(std::string_view text);
 /// Returns the number of UTF-16 units.
 std::size_t Len(std::string_view text);
 
+/// Returns the first `count` UTF-16 units; fewer if the text is shorter, or if the end would split a
+/// surrogate pair.
+std::string_view Left(std::string_view text, std::size_t count);
+
 /// Converts between UTF-8 and UTF-16. Invalid UTF-8 becomes U+FFFD; halves of surrogate pairs are kept in
 /// both directions.
 ///@{

@@ -11,6 +11,9 @@ TEST(StringsTest, CountInUtf16Units) {
       "a\xF0\x9D\x84\x9E"
       "b";  // U+1D11E has two units.
   EXPECT_EQ(Len(clef), 4u);
+  // No text ends with a half of the pair.
+  const std::string beginnings[] = {"", "a", "a", clef.substr(0, 5), clef, clef};
+  for (std::size_t count = 0; count < 6; ++count) EXPECT_EQ(Left(clef, count), beginnings[count]) << count;
   const std::u16string units = ToUtf16(clef);
   const std::string first = ToUtf8(units.substr(0, 2)), second = ToUtf8(units.substr(2));
   // A cut through a pair leaves two halves, which are a character again when they are joined.
