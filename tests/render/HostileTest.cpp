@@ -128,6 +128,58 @@ TEST_F(DrawingTest, LegendsAreReadOnlyAsFarAsTheyAreShown) {
   EXPECT_EQ(lines[2].text, "3");
 }
 
+TEST_F(DrawingTest, LegendTextsOfSeveralLevelsAreBounded) {
+  const S e = "\xC3\xA9";  // One UTF-16 unit, but two bytes.
+  const auto repeated = [](const S& text, int count) {
+    S all;
+    for (int i = 0; i < count; ++i) all += text;
+    return all;
+  };
+  std::vector<std::vector<std::pair<int, S>>> tenLevels(10, {{0, "o"}});
+  tenLevels[0] = {{0, "own"}};
+  tenLevels[8] = {{0, "eighth"}};
+  const struct {
+    const char* what;
+    S categories;
+    Texts texts;
+  } cases[] = {
+      {"the outermost level first",
+       LevelsXml(4, {{{0, "a"}, {1, "b"}, {3, "d"}}, {{0, "A"}, {3, "D"}}, {{1, "x"}}}),
+       {"A a", "x A b", "3", "x D d"}},
+      {"an empty innermost level",
+       LevelsXml(4, {{}, {{0, "A"}, {3, "D"}}, {{0, "x"}}}),
+       {"x A", "2", "3", "x D"}},
+      {"at most eight outer levels",
+       LevelsXml(4, tenLevels),
+       {"eighth " + repeated("o ", 7) + "own", "2", "3", "4"}},
+      {"a long outer text",
+       LevelsXml(4, {{{0, "a"}, {3, "d"}}, {{0, repeated(e, 32'766)}, {3, repeated(e, 40'000)}}}),
+       {repeated(e, 32'766) + " ", "2", "3", repeated(e, 32'767)}},
+      {"a long text",
+       CategoriesXml({S(32'767, 'x'), S(40'000, 'y')}),
+       {S(32'767, 'x'), S(32'767, 'y'), "3", "4"}},
+  };
+  for (const auto& test : cases) {
+    OpenChart(ChartPartXml(
+        PlotXml("<c:pieChart>" + SeriesXml(0, {1, 2, 3, 4}, "", "", test.categories) + "</c:pieChart>",
+                "<c:legend/>")));
+    Texts texts;
+    for (const auto& line : xlsx::LegendLines(*Book().Chart("/xl/charts/chart1.xml")))
+      texts.push_back(line.text);
+    EXPECT_EQ(texts, test.texts) << test.what;
+  }
+}
+
+TEST_F(DrawingTest, LegendTextsAreReadOnlyForTheFirstEntries) {
+  const S levels = LevelsXml(4000, {{{1999, "last"}, {2000, "no more"}}, {{0, S(1'000'000, 'x')}}});
+  OpenChart(ChartPartXml(PlotXml(
+      "<c:pieChart>" + SeriesXml(0, Numbers(4000, 1), "", "", levels) + "</c:pieChart>", "<c:legend/>")));
+  const auto texts = xlsx::LegendTexts(*Book().Chart("/xl/charts/chart1.xml"));
+  ASSERT_EQ(texts.size(), xlsx::kMostLegendEntries);
+  EXPECT_EQ(texts.front(), "1");
+  EXPECT_EQ(texts.back(), S(32'767, 'x'));
+}
+
 TEST_F(DrawingTest, FiveThousandPointsOf254SeriesStayUsable) {
   Numbers values;
   for (int i = 0; i < 5000; ++i) values.push_back(std::sin(i / 50.0) + i % 7);

@@ -13,8 +13,6 @@ namespace plotsmith::render {
 /// The maximum number of points that are drawn, per series and per chart. Points with texts count too. Excel
 /// 2007 and older versions draw at most 32,000 and 256,000.
 inline constexpr std::size_t kMostPoints = 100'000, kMostPointsOfAll = 2'000'000;
-/// The maximum number of legend entries that are read.
-inline constexpr std::size_t kMostLegendEntries = 2000;
 
 /// The common state of the functions that read a chart.
 struct ReadingContext {

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <map>
 #include <optional>
 #include <utility>
 
@@ -145,20 +144,13 @@ std::vector<std::string> ReadCategories(ReadingContext& context, pugi::xml_node 
 }
 
 std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t categories) {
-  constexpr std::size_t kMostLevels = 8;
   std::vector<CategoryLevel> levels;
   bool isInnermost = true;
-  for (const pugi::xml_node& node :
-       xml::Children(xml::Child(data, "multiLvlStrRef", "multiLvlStrCache"), "lvl")) {
+  for (auto& texts : xlsx::CachedLevels(data)) {
     if (std::exchange(isInnermost, false)) continue;
-    if (levels.size() == kMostLevels) break;
-    std::map<std::size_t, std::string> texts;  // by the index of their first category
-    for (const pugi::xml_node& point : xml::Children(node, "pt")) {
-      const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
-      if (index < categories) texts[index] = xlsx::CachedText(point);
-    }
     CategoryLevel& level = levels.emplace_back();
     for (auto& [first, text] : texts) {
+      if (first >= categories) break;
       if (!level.empty()) level.back().end = first;
       level.push_back({first, categories, std::move(text)});
     }

@@ -60,7 +60,7 @@ std::optional<LegendModel> ReadLegend(ReadingContext& context) {
   legend.style = ReadStyle(context.part, xml::Child(node, "spPr"), {});
   legend.text = ReadTextStyle(context.part, node, xlsx::TextRole::kOther);
   const EntrySettings settings(context);
-  for (const xlsx::LegendLine& line : xlsx::LegendLines(context.part, kMostLegendEntries)) {
+  for (const xlsx::LegendLine& line : xlsx::LegendLines(context.part)) {
     legend.entries.push_back({line.text, settings.StyleOf(line.number, legend.text),
                               static_cast<int>(line.series + 1),
                               line.point ? static_cast<int>(*line.point + 1) : 0});
@@ -81,7 +81,7 @@ void AddTrendlineEntries(ReadingContext& context, ChartModel& chart) {
     for (const SeriesModel& series : group.series) {
       int count = 0;
       for (const Trendline& line : series.trendlines) {
-        if (legend.entries.size() >= kMostLegendEntries) return;
+        if (legend.entries.size() >= xlsx::kMostLegendEntries) return;
         ++count;
         const std::size_t own = number++;
         if (!line.isVisible || settings.IsDeleted(own)) continue;

@@ -53,6 +53,16 @@ std::map<std::size_t, std::string> CachedTexts(pugi::xml_node data) {
   return texts;
 }
 
+std::vector<std::map<std::size_t, std::string>> CachedLevels(pugi::xml_node data) {
+  std::vector<std::map<std::size_t, std::string>> levels;
+  for (const pugi::xml_node& level :
+       xml::Children(xml::Child(data, "multiLvlStrRef", "multiLvlStrCache"), "lvl")) {
+    if (levels.size() == kMostLevels) break;
+    AddTexts(level, levels.emplace_back());
+  }
+  return levels;
+}
+
 std::vector<Variant> CachedNumbers(pugi::xml_node data) {
   const auto cache = NumbersOf(data);
   std::vector<Variant> numbers(PointsIn(cache));

@@ -22,6 +22,11 @@ void SetCachedText(pugi::xml_node holder, std::string_view text);
 /// The texts of a series' data, or of a title's cells, by the index of their point, from 0. Points without a
 /// text are left out.
 std::map<std::size_t, std::string> CachedTexts(pugi::xml_node data);
+/// The maximum number of levels of categories that are read: the innermost level and eight outer ones.
+inline constexpr std::size_t kMostLevels = 9;
+/// The texts of each level of a series' categories (c:multiLvlStrCache), the innermost level first. A text of
+/// an outer level applies from its point on, up to the next text of that level. Empty if there are no levels.
+std::vector<std::map<std::size_t, std::string>> CachedLevels(pugi::xml_node data);
 /// The numbers of a series' data, one for each point; Empty for a point without a number.
 std::vector<runtime::Variant> CachedNumbers(pugi::xml_node data);
 /// The number of points in a series' data.

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "runtime/Strings.h"
+#include "xlsx/base/Limits.h"
 #include "xlsx/chart/part/ChartCache.h"
 #include "xlsx/chart/part/ChartPart.h"
 #include "xlsx/chart/rules/PlotGroups.h"
@@ -29,28 +31,35 @@ bool ListsPoints(ChartPart& part) {
   return part.Series().size() == 1 && schema::BooleanVal(groups[0], "varyColors", false);
 }
 
-/// Returns the texts of the categories. Several levels are joined into one text, the outermost first.
-std::map<std::size_t, std::string> CategoryTexts(ChartPart& part, pugi::xml_node categories) {
-  const auto cache = xml::Child(categories, "multiLvlStrRef", "multiLvlStrCache");
-  if (!cache) return DataTexts(part, categories);
-  std::map<std::size_t, std::string> texts;
-  for (const pugi::xml_node& level : xml::Children(cache, "lvl")) {
-    std::map<std::size_t, std::string> own;
-    for (const pugi::xml_node& point : xml::Children(level, "pt")) {
-      const long long index = xml::IntegerAttribute(point, "idx", -1);
-      if (index >= 0) own[static_cast<std::size_t>(index)] = CachedText(point);
-    }
-    if (texts.empty()) {
-      texts = std::move(own);
-      continue;
-    }
-    // A text of an outer level applies until the next text of that level.
-    for (auto& [index, text] : texts) {
-      const auto next = own.upper_bound(index);
-      if (next != own.begin()) text.insert(0, std::prev(next)->second + " ");
-    }
+/// The texts of categories, a map for each level, the innermost first.
+using Levels = std::vector<std::map<std::size_t, std::string>>;
+
+/// Returns a text as a cell could contain it.
+std::string Shortened(const std::string& text) {
+  return std::string(runtime::Left(text, limits::kCellText));  // A copy takes no more memory than its text.
+}
+
+Levels CategoryLevels(ChartPart& part, pugi::xml_node categories) {
+  Levels levels = CachedLevels(categories);
+  std::erase_if(levels, [](const auto& level) { return level.empty(); });
+  if (levels.empty()) levels.push_back(DataTexts(part, categories));
+  for (auto& level : levels) {
+    for (auto& [point, text] : level) text = Shortened(text);
   }
-  return texts;
+  return levels;
+}
+
+/// Returns the text of a point, which is its number if its category has no text. The texts of several levels
+/// are joined, the outermost first.
+std::string PointText(const Levels& levels, std::size_t point) {
+  const auto own = levels.front().find(point);
+  if (own == levels.front().end()) return std::to_string(point + 1);
+  std::string text;
+  for (std::size_t i = levels.size() - 1; i > 0; --i) {
+    const auto next = levels[i].upper_bound(point);
+    if (next != levels[i].begin()) text += std::prev(next)->second + " ";
+  }
+  return Shortened(text + own->second);
 }
 
 std::size_t AllEntries(ChartPart& part) {
@@ -75,16 +84,14 @@ std::vector<std::size_t> LegendNumbers(ChartPart& part, std::size_t most) {
 
 std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most) {
   const bool points = ListsPoints(part);
-  const auto categories = points ? CategoryTexts(part, xml::Child(part.Series()[0]->node, "cat"))
-                                 : std::map<std::size_t, std::string>();
+  const Levels categories =
+      points ? CategoryLevels(part, xml::Child(part.Series()[0]->node, "cat")) : Levels();
   std::vector<LegendLine> lines;
   for (const std::size_t number : LegendNumbers(part, most)) {
     if (!points) {
       lines.push_back({number, number, std::nullopt, ShownName(part, part.Series()[number]->node)});
     } else {
-      const auto text = categories.find(number);
-      lines.push_back(
-          {number, 0, number, text == categories.end() ? std::to_string(number + 1) : text->second});
+      lines.push_back({number, 0, number, PointText(categories, number)});
     }
   }
   return lines;

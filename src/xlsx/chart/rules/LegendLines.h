@@ -21,9 +21,13 @@ struct LegendLine {
 /// The numbers of the first `most` entries that were not deleted, from 0. The limit matters because a part
 /// may declare millions of points that it doesn't contain.
 std::vector<std::size_t> LegendNumbers(ChartPart& part, std::size_t most = SIZE_MAX);
-/// The first `most` entries that were not deleted, with their texts.
-std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most = SIZE_MAX);
-/// The texts of the entries that were not deleted.
+/// The maximum number of entries whose texts are read. A text can take 100 KB even in a small file, because
+/// all entries share the texts of the outer levels of categories.
+inline constexpr std::size_t kMostLegendEntries = 2000;
+/// The first `most` entries that were not deleted, with their texts. The text of a category has at most as
+/// many characters as a cell.
+std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most = kMostLegendEntries);
+/// The texts of the same entries.
 std::vector<std::string> LegendTexts(ChartPart& part);
 
 /// Call this before the series at a position, from 0, is deleted. The series' entry is deleted, and the later
