@@ -1,5 +1,6 @@
 #include "xlsx/package/XmlStream.h"
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -61,11 +62,15 @@ bool XmlStream::Fill() {
     if (window_.size() > limits::kXmlToken) throw PackageError("it contains a text without an end");
     window_.resize(window_.size() * 2);
   }
-  const std::size_t count = ReadSource(window_.data() + unread, window_.size() - 1 - kSlack - unread);
+  const std::size_t room = window_.size() - 1 - kSlack;
+  std::size_t filled = unread;
+  for (std::size_t count = 1; count > 0 && filled < std::min(room, 2 * unread + 1); filled += count) {
+    count = ReadSource(window_.data() + filled, room - filled);
+  }
   position_ = window_.data();
-  end_ = window_.data() + unread + count;
-  window_[unread + count] = '\0';
-  return count > 0;
+  end_ = window_.data() + filled;
+  window_[filled] = '\0';
+  return filled > unread;
 }
 
 bool XmlStream::PassText(std::string* text) {

@@ -39,7 +39,9 @@ class XmlStream {
 
  protected:
   /// Moves the unread bytes to the start of the window and reads more. Returns false at the end of the part.
-  /// A full window grows. `position_` stays at the same byte.
+  /// A full window grows. `position_` stays at the same byte. The unread bytes at least double if the window
+  /// and the part have enough bytes. Therefore a long text takes linear time even if each call is followed by
+  /// a search from its beginning.
   bool Fill();
   /// Throws the PackageError for XML that isn't well-formed.
   [[noreturn]] static void Damaged();

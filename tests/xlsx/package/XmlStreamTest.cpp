@@ -65,6 +65,27 @@ TEST(XmlStreamTest, TagsAndTheTextsBeforeThem) {
   }
 }
 
+/// A stream that keeps all of its text in the window.
+class KeepingStream : public XmlStream {
+ public:
+  using XmlStream::XmlStream;
+  /// Reads to the end. Returns how often the window was filled.
+  int FillAll() {
+    int fills = 0;
+    while (Fill()) ++fills;
+    return fills;
+  }
+};
+
+// A cell is read again from its beginning after each call of Fill.
+TEST(XmlStreamTest, ALongTextNeedsFewFillsEvenIfTheSourceGivesSmallPieces) {
+  const S text(std::size_t{8} << 20, 'x');
+  MemoryStream source(text, 1000);
+  const int fills = KeepingStream(source).FillAll();
+  EXPECT_GT(fills, 10);
+  EXPECT_LT(fills, 30);
+}
+
 TEST(XmlStreamTest, ElementsAreReadAndSkippedAsAWhole) {
   const S xml = "<r><t>a<b>b<t>c</t></b><e/><![CDATA[d]]></t><s>1<s><s/></s>2</s><u/>end</r>";
   for (const std::size_t piece : kPieces) {
@@ -97,7 +118,7 @@ TEST(XmlStreamTest, DamageAndDocumentTypesAreErrors) {
                                                        {"<!-a>", "it declares a document type"}};
   for (const auto& [xml, message] : cases) {
     for (const std::size_t piece : kPieces) {
-      const S error = test::ErrorTextOf<PackageError>([&] { Tags(xml, piece); });
+      const S error = test::ErrorTextOf<PackageError>([&xml = xml, piece] { Tags(xml, piece); });
       EXPECT_TRUE(error.starts_with(message)) << xml << ": " << error;
     }
   }
