@@ -61,6 +61,15 @@ constexpr Builtin kBuiltins[] = {
     {49, "@"},
 };
 
+/// Ids of dates and times whose codes depend on an East Asian language.
+struct EastAsianRange {
+  int first, last;
+  /// The built-in format that other languages show instead.
+  int shownAs;
+};
+
+constexpr EastAsianRange kEastAsian[] = {{27, 31, 14}, {32, 35, 21}, {36, 36, 14}, {50, 58, 14}};
+
 void AppendLiterals(std::string& out, const Section& section, Token::Kind placeholder,
                     std::string_view text) {
   const std::size_t begin = out.size();
@@ -199,9 +208,18 @@ void NumberFormat::AppendBoolean(std::string& out, bool value) const {
 }
 
 std::string_view BuiltinNumberFormat(int id) {
+  for (const EastAsianRange& range : kEastAsian) {
+    if (id >= range.first && id <= range.last) id = range.shownAs;
+  }
   const auto* found = std::find_if(std::begin(kBuiltins), std::end(kBuiltins),
                                    [&](const Builtin& builtin) { return builtin.id == id; });
   return found == std::end(kBuiltins) ? std::string_view() : found->code;
+}
+
+std::optional<int> BuiltinNumberFormatId(std::string_view code) {
+  const auto* found = std::find_if(std::begin(kBuiltins), std::end(kBuiltins),
+                                   [&](const Builtin& builtin) { return builtin.code == code; });
+  return found == std::end(kBuiltins) ? std::nullopt : std::optional(found->id);
 }
 
 }  // namespace plotsmith::xlsx

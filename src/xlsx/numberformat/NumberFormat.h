@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -52,9 +53,12 @@ class NumberFormat {
   std::unique_ptr<const Program> program_;
 };
 
-/// The code of a built-in format in Excel's en-US version; empty if there is no such format, or if only
-/// formats of other languages have the id.
+/// The code of a built-in format in Excel's en-US version; empty if there is no such format. The dates
+/// and times of East Asian languages have the codes of the date 14 and the time 21. Thai formats have none.
 std::string_view BuiltinNumberFormat(int id);
+/// The id of the built-in format with this code. An id whose code depends on an East Asian language is never
+/// returned, because Excel in such a language would show another format.
+std::optional<int> BuiltinNumberFormatId(std::string_view code);
 
 /// Appends a number in General format: up to 11 digits, and scientific notation outside of 1E-9 to 1E11, as
 /// in Excel.

@@ -125,9 +125,7 @@ void Styles::Parse(const CellStyle& style) const {
 int Styles::FormatId(std::string_view code) {
   if (runtime::EqualsIgnoreCase(code, "General") || code.empty()) return 0;
   if (const auto custom = formatIds_.find(code); custom != formatIds_.end()) return custom->second;
-  for (int id = 1; id < 50; ++id) {
-    if (BuiltinNumberFormat(id) == code && !formats_.contains(id)) return id;
-  }
+  if (const auto id = BuiltinNumberFormatId(code); id && !formats_.contains(*id)) return *id;
   std::set<long long> taken;
   for (const auto& [id, custom] : formats_) taken.insert(id);
   const auto next = static_cast<int>(FreeNumber(taken, kFirstCustomFormat, kLastFormat));

@@ -432,14 +432,23 @@ TEST(NumberFormatTest, BuiltinFormats) {
   EXPECT_EQ(BuiltinNumberFormat(37), "#,##0_);(#,##0)");
   EXPECT_EQ(BuiltinNumberFormat(49), "@");
   int count = 0;
+  std::string dates, notWritten;
   for (int id = -1; id < 200; ++id) {
     const auto code = BuiltinNumberFormat(id);
     count += code.empty() ? 0 : 1;
-    EXPECT_NE(NumberFormat::Parse(code), nullptr) << id;
-    const bool is_date = (id >= 14 && id <= 17) || id == 22;
-    EXPECT_EQ(NumberFormat::Parse(code)->IsDate(), is_date) << id;
+    ASSERT_NE(NumberFormat::Parse(code), nullptr) << id;
+    if (NumberFormat::Parse(code)->IsDate()) dates += std::to_string(id) + " ";
+    if (!code.empty() && BuiltinNumberFormatId(code) != id) {
+      notWritten += std::to_string(id) + "=" + std::string(code) + " ";
+    }
   }
-  EXPECT_EQ(count, 36);
+  EXPECT_EQ(count, 55);
+  EXPECT_EQ(dates, "14 15 16 17 22 27 28 29 30 31 36 50 51 52 53 54 55 56 57 58 ");
+  EXPECT_EQ(notWritten,
+            "27=m/d/yyyy 28=m/d/yyyy 29=m/d/yyyy 30=m/d/yyyy 31=m/d/yyyy 32=h:mm:ss 33=h:mm:ss 34=h:mm:ss "
+            "35=h:mm:ss 36=m/d/yyyy 50=m/d/yyyy 51=m/d/yyyy 52=m/d/yyyy 53=m/d/yyyy 54=m/d/yyyy "
+            "55=m/d/yyyy 56=m/d/yyyy 57=m/d/yyyy 58=m/d/yyyy ");
+  EXPECT_EQ(BuiltinNumberFormatId("yyyy"), std::nullopt);
   ExpectShown({
       {"# ?/?", 0.75, " 3/4"},
       {BuiltinNumberFormat(8).data(), -1234.5, "($1,234.50)"},
