@@ -27,10 +27,7 @@ std::string OneLine(std::string text) {
 
 std::string Quoted(std::string_view text) {
   if (runtime::Len(text) <= kLongest) return "'" + OneLine(std::string(text)) + "'";
-  std::u16string units = runtime::ToUtf16(text).substr(0, kLongest);
-  const bool isHalf = units.back() >= 0xD800 && units.back() <= 0xDBFF;
-  if (isHalf) units.pop_back();  // Don't cut inside a character.
-  return "'" + OneLine(runtime::ToUtf8(units)) + "...'";
+  return "'" + OneLine(std::string(runtime::Left(text, kLongest))) + "...'";
 }
 
 std::string ShellWord(const std::string& text) {

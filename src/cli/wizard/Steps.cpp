@@ -122,10 +122,9 @@ Step TypeStep(const char* control, std::string text, const char* option) {
 Step FittingTextStep(const char* control, std::string text) {
   return [control, text = std::move(text)](const forms::Form& page) {
     const std::size_t limit = ControlOn<forms::TextBox>(page, control).Limit();
-    std::u16string units = runtime::ToUtf16(forms::WithLineEnds(text, "\n"));
-    if (limit > 0 && units.size() > limit) units.resize(limit);
-    forms::ReplaceUntypeable(units, u"");
-    return std::string("type ") + control + " " + WordFor(runtime::ToUtf8(units));
+    const std::string line = OneLine(forms::WithLineEnds(text, "\n"));
+    const std::string_view fitting = limit > 0 ? runtime::Left(line, limit) : line;
+    return std::string("type ") + control + " " + WordFor(fitting);
   };
 }
 
