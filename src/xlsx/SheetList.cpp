@@ -240,8 +240,8 @@ void SheetList::WriteActiveTab() {
     for (const auto& sheet : sheets_) parts.push_back(sheet->part);
     if (SelectOnlyTab(book_.Package(), parts, sheets_[active_]->part)) {
       opened_ = sheets_[active_];
-    } else {
-      shown = PositionOf(*opened_);  // Another tab would make a group with the selected ones.
+    } else if (const std::size_t before = PositionOf(*opened_); before < sheets_.size()) {
+      shown = before;  // Another tab would make a group with the selected ones.
     }
   }
   const auto active = static_cast<long long>(shown);

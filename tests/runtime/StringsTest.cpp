@@ -28,8 +28,9 @@ TEST(StringsTest, UpperCase) {
   EXPECT_EQ(UCase(upper, scratch).data(), upper.data()) << "nothing to do, nothing copied";
   EXPECT_TRUE(EqualsIgnoreCase("Größe", "GRÖßE"));
   EXPECT_TRUE(EqualsIgnoreCase("", ""));
-  const std::pair<const char*, const char*> different[] = {
-      {"a", "ab"}, {"ab", ""}, {"a", "é"}, {"ſ", "S"}, {"größe", "GRößi"}, {"ı", "I"}, {"µ", "μ"}, {"[", "{"}};
+  const std::pair<const char*, const char*> different[] = {{"a", "ab"}, {"ab", ""},         {"a", "é"},
+                                                           {"ſ", "S"},  {"größe", "GRößi"}, {"ı", "I"},
+                                                           {"µ", "μ"},  {"[", "{"}};
   for (const auto& [a, b] : different) {
     EXPECT_FALSE(EqualsIgnoreCase(a, b)) << a << b;
     EXPECT_FALSE(EqualsIgnoreCase(b, a)) << b << a;
