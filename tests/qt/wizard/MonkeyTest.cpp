@@ -177,9 +177,13 @@ class MonkeyTest : public test::ProgramTest, public testing::WithParamInterface<
     std::ofstream(book_, std::ios::binary) << fresh_;  // An earlier run may have saved the workbook.
     Monkey monkey(seed);
     S script = way.lines;
-    for (int i = 0; i < kEvents; ++i) script += "do monkey; ";
-    const auto run = RunFreely(script, {{"monkey", [&] { monkey.MakeEvent(); }}});
-    EXPECT_TRUE(run.failure.empty() || run.failure == "the program ended before: do monkey") << run.failure;
+    for (int i = 1; i <= kEvents; ++i) {
+      script += "do monkey; ";
+      if (i % kEventsBetweenLooks == 0) script += "do wait; do look; ";
+    }
+    const auto run = RunFreely(script, {{"monkey", [&] { monkey.MakeEvent(); }}, {"look", LookAtPage}});
+    EXPECT_TRUE(run.failure.empty() || run.failure.starts_with("the program ended before: do "))
+        << run.failure;
     EXPECT_EQ(run.code, 0) << run.err;
   }
 };
