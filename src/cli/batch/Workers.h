@@ -30,7 +30,8 @@ struct WorkerTasks {
 /// signal, or 0. Throws std::system_error if no worker can be started.
 int RunInWorkers(const WorkerTasks& tasks, std::size_t processes);
 
-/// Returns the number of processes that use the machine fully: two for each processor, because a process
+/// Returns the number of processes that use the machine fully: two for each processor that this process may
+/// use, because a process
 /// waits about half of its time for the disk. It is one on Windows.
 std::size_t UsualProcesses();
 

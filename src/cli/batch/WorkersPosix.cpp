@@ -9,12 +9,12 @@
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <system_error>
-#include <thread>
 #include <unistd.h>
 #include <utility>
 #include <vector>
 
 #include "cli/batch/Workers.h"
+#include "runtime/Processors.h"
 
 namespace plotsmith::cli {
 namespace {
@@ -213,6 +213,6 @@ int RunInWorkers(const WorkerTasks& tasks, std::size_t processes) {
   return WorkerPool(tasks, processes).Run();
 }
 
-std::size_t UsualProcesses() { return 2 * std::max<std::size_t>(1, std::thread::hardware_concurrency()); }
+std::size_t UsualProcesses() { return 2 * std::size_t{runtime::ProcessorCount()}; }
 
 }  // namespace plotsmith::cli
