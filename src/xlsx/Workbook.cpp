@@ -138,11 +138,20 @@ bool Workbook::Changed() const {
 
 void Workbook::Save(const std::string& path) {
   CheckName(path);
-  if (const WorkbookKind* kind = format_.OtherKind(path)) {
-    Package().SetContentType(Part().Name(), kind->contentType);
-  }
   WriteModels();
-  Package().Save(path);
+  const WorkbookKind* const kind = format_.OtherKind(path);
+  if (kind == nullptr) return Package().Save(path);
+  // The next save may be to a file of the opened kind again.
+  const std::string openedType = Package().ContentType(Part().Name());
+  const auto restore = [&] { Package().SetContentType(Part().Name(), openedType); };
+  Package().SetContentType(Part().Name(), kind->contentType);
+  try {
+    Package().Save(path);
+  } catch (...) {
+    restore();
+    throw;
+  }
+  restore();
 }
 
 void Workbook::Save(std::ostream& out) {

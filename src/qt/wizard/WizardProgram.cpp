@@ -10,6 +10,7 @@
 #include "qt/wizard/ChartPicture.h"
 #include "qt/wizard/EventLoop.h"
 #include "qt/wizard/MessageBox.h"
+#include "xlsx/package/WorkbookKind.h"
 
 namespace plotsmith::qt {
 namespace {
@@ -100,7 +101,11 @@ bool WizardProgram::RunPages() {
   return session_.ChartsStarted() > chartsBefore_ || desktop_->Confirmed();
 }
 
-QString WizardProgram::Target() const { return TextOf(target_.value_or(options_.book)); }
+QString WizardProgram::Target() const {
+  return cli::IsStandardOutput(target_)
+             ? QStringLiteral("standard output")
+             : QStringLiteral("\"%1\"").arg(TextOf(target_.value_or(options_.book)));
+}
 
 QString WizardProgram::Outcome() const {
   const int built = session_.ChartsStarted() - chartsBefore_;
@@ -120,7 +125,7 @@ WizardProgram::Next WizardProgram::Finish() {
 }
 
 std::optional<WizardProgram::Next> WizardProgram::AskToSave(const QString& outcome) {
-  const QString text = outcome + QStringLiteral(" \"%1\" isn't saved yet.").arg(Target());
+  const QString text = outcome + QStringLiteral(" %1 isn't saved yet.").arg(Target());
   switch (window_->Ask(
       text, {QStringLiteral("&Save"), QStringLiteral("Save &As..."), QStringLiteral("&Discard")})) {
     case 0:
@@ -137,7 +142,7 @@ std::optional<WizardProgram::Next> WizardProgram::AskToSave(const QString& outco
 std::optional<WizardProgram::Next> WizardProgram::AskBeforeClosing() {
   closing_ = true;
   const auto answer = ShowMessageBox(
-      window_.get(), QMessageBox::Question, QStringLiteral("Save the changes to \"%1\"?").arg(Target()),
+      window_.get(), QMessageBox::Question, QStringLiteral("Save the changes to %1?").arg(Target()),
       QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
   if (answer == QMessageBox::Save) {
     if (const auto next = Save()) return next;
@@ -149,18 +154,28 @@ std::optional<WizardProgram::Next> WizardProgram::AskBeforeClosing() {
 }
 
 std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
-  QFileDialog dialog(window_.get(), QStringLiteral("Save As"), Target(),
+  const bool hasFile = !cli::IsStandardOutput(target_);
+  QFileDialog dialog(window_.get(), QStringLiteral("Save As"),
+                     TextOf(hasFile ? target_.value_or(options_.book) : options_.book),
                      QString::fromLatin1(kWorkbookFilter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(QFileInfo(TextOf(options_.book)).suffix());
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // Qt would ask in its own event loop.
+  QString file;
   do {
     if (RunDialog(dialog) != QDialog::Accepted) return std::nullopt;
-  } while (!MayReplace(dialog.selectedFiles().front()));
-  const auto before = std::exchange(target_, TextOf(dialog.selectedFiles().front()));
+    file = WithExtension(dialog.selectedFiles().front());
+  } while (!MayReplace(file));
+  const auto before = std::exchange(target_, TextOf(file));
   const auto next = Save();
   if (!next) target_ = before;
   return next;
+}
+
+// Qt's default suffix isn't added to a name with a dot, such as "Report 23.11.2026".
+QString WizardProgram::WithExtension(const QString& file) const {
+  const std::string name = TextOf(file);
+  if (xlsx::KindOfName(name) != nullptr || xlsx::IsForeignName(name)) return file;
+  return file + TextOf(xlsx::ExtensionOf(options_.book));
 }
 
 bool WizardProgram::MayReplace(const QString& file) {
@@ -171,7 +186,9 @@ bool WizardProgram::MayReplace(const QString& file) {
 }
 
 WizardProgram::Next WizardProgram::AskWhatIsNext(const QString& outcome) {
-  const int answer = window_->Ask(outcome, {QStringLiteral("&Close"), QStringLiteral("Chart &Wizard...")});
+  QStringList answers = {QStringLiteral("&Close"), QStringLiteral("Chart &Wizard...")};
+  if (cli::IsStandardOutput(target_)) answers.removeLast();  // A second workbook can't follow the first one.
+  const int answer = window_->Ask(outcome, answers);
   return answer == 1 ? Next::kRunAgain : Next::kQuit;
 }
 
@@ -186,8 +203,11 @@ std::optional<WizardProgram::Next> WizardProgram::Save() {
   }
   isSaved_ = true;
   if (closing_) return Next::kQuit;
-  window_->SetBookName(QFileInfo(Target()).fileName());
-  return AskWhatIsNext(Outcome() + QStringLiteral(" Saved in \"%1\".").arg(Target()));
+  const bool hasFile = !cli::IsStandardOutput(target_);
+  if (hasFile) window_->SetBookName(QFileInfo(TextOf(target_.value_or(options_.book))).fileName());
+  return AskWhatIsNext(
+      Outcome() +
+      (hasFile ? QStringLiteral(" Saved in %1.") : QStringLiteral(" Written to %1.")).arg(Target()));
 }
 
 }  // namespace plotsmith::qt

@@ -61,8 +61,10 @@ class WizardProgram {
   /// Saves to the target and asks what follows. Returns nothing if saving failed; the user has then been told
   /// so.
   std::optional<Next> Save();
-  /// Returns the file that Save writes.
+  /// Returns the file that Save writes, in quotes, or "standard output".
   QString Target() const;
+  /// Returns the path with the workbook's own extension if it doesn't end with one of a spreadsheet program.
+  QString WithExtension(const QString& file) const;
   QString Outcome() const;
 
   WizardOptions options_;

@@ -69,6 +69,11 @@ class ScratchFile {
 };
 constexpr std::size_t kCopiedBlock = 256 * 1024;
 
+bool IsSameFile(const std::string& one, const std::string& other) {
+  std::error_code ignored;
+  return std::filesystem::equivalent(runtime::PathOf(one), runtime::PathOf(other), ignored);
+}
+
 /// Reopens the file of a closed archive. If that fails, returns false and leaves the archive closed.
 bool Reopen(std::unique_ptr<Archive>& archive) {
   try {
@@ -413,14 +418,19 @@ void Package::Save(const std::string& path) {
   Commit(file, path);
 }
 
-/// Replaces the target of `file`. Windows can't replace an open file. If the package is saved over its own
-/// file, it therefore closes that file and continues with the new one, which has the parts in their present
-/// order.
+/// Replaces the target of `file`, unless another program has changed it meanwhile. Windows can't replace an
+/// open file. If the package is saved over its own file, it therefore closes that file and continues with the
+/// new one, which has the parts in their present order.
 void Package::Commit(AtomicFile& file, const std::string& path) {
-  std::error_code ignored;
-  if (!archive_ ||
-      !std::filesystem::equivalent(runtime::PathOf(archive_->Path()), runtime::PathOf(path), ignored)) {
+  if (!archive_ || !IsSameFile(archive_->Path(), path)) {
+    if (copy_ && IsSameFile(copy_->path, path)) {
+      file.LockTarget();
+      if (FileStamp::Of(path) != copy_->stamp) {
+        throw PackageError("another program has changed it since it was saved");
+      }
+    }
     file.Commit();
+    copy_ = {path, FileStamp::Of(path)};
     return;
   }
   file.LockTarget();

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "xlsx/package/Archive.h"
+#include "xlsx/package/FileStamp.h"
 
 namespace plotsmith::xlsx {
 
@@ -78,7 +79,8 @@ class Package {
   /// Returns true if the package was changed since it was opened.
   bool Changed() const { return changed_; }
   /// Writes the package to a new file, which then replaces `path` in one step. At any moment, `path` is a
-  /// complete file. The file keeps its permissions; if `path` is a link, its target is replaced.
+  /// complete file. The file keeps its permissions; if `path` is a link, its target is replaced. Throws a
+  /// PackageError if another program has changed the file since it was opened or last saved by this object.
   void Save(const std::string& path);
   /// Writes the package to a stream. The package is complete before the stream gets its first byte.
   void Save(std::ostream& out);
@@ -101,7 +103,14 @@ class Package {
   void ParseContentTypes(std::string_view bytes);
   void Commit(AtomicFile& file, const std::string& path);
 
+  /// A file other than the package's own that the package was saved to.
+  struct Copy {
+    std::string path;
+    std::optional<FileStamp> stamp;  ///< The state of the file after the save.
+  };
+
   std::unique_ptr<Archive> archive_;
+  std::optional<Copy> copy_;                          ///< The last copy, if there is one.
   std::vector<std::unique_ptr<Part>> parts_;          // in the order of the file
   std::map<std::string, Part*, std::less<>> byName_;  ///< By name in lower case.
   /// The relationships that were read, by the name of the part. They are cached because each shape of a

@@ -1,3 +1,4 @@
+#include <QtWidgets/QPushButton>
 #include <filesystem>
 #include <fstream>
 
@@ -5,6 +6,7 @@
 #include "tests/qt/support/Windows.h"
 #include "tests/qt/wizard/ProgramTest.h"
 #include "tests/support/RunCommand.h"
+#include "xlsx/package/Package.h"
 
 namespace plotsmith {
 namespace {
@@ -188,6 +190,36 @@ TEST_F(WizardProgramTest, AnotherRunContinuesFromTheFirst) {
                           "type txtName Third; press cmdFinish; bar Save; bar Close");
   EXPECT_EQ(second.told.back(), "The chart is built. Saved in \"" + Other() + "\".");
   EXPECT_TRUE(BytesOf(book_) == once) << "after Save As, Save writes the other file";
+}
+
+TEST_F(WizardProgramTest, EachSaveHasTheContentTypeOfItsExtension) {
+  const S run = "page frmPSSelectAction; press cmdNew; " + S(kNewChart) + "type txtName ";
+  const S missing = folder_ / "missing/copy.xltx", xltx = folder_ / "Report 23.11.xltx";
+  const auto result =
+      Run(S(kNewChart) + "press cmdFinish; bar Save As; file " + missing + "; box OK; bar Save As; file " +
+          xltx + "; bar Chart Wizard; " + run + "B; press cmdFinish; bar Save As; file " +
+          S(folder_ / "Report 23.11.2026") + "; bar Chart Wizard; " + run +
+          "C; press cmdFinish; bar Save As; file " + book_ + "; box Yes; bar Close");
+  EXPECT_EQ(result.told.back(), "The chart is built. Saved in \"" + book_ + "\".");
+  const auto typeOf = [](const S& path) { return xlsx::Package::Open(path).ContentType("/xl/workbook.xml"); };
+  const S stem = "application/vnd.openxmlformats-officedocument.spreadsheetml.";
+  EXPECT_EQ(typeOf(xltx), stem + "template.main+xml");
+  EXPECT_EQ(typeOf(folder_ / "Report 23.11.2026.xlsx"), stem + "sheet.main+xml");
+  EXPECT_EQ(typeOf(book_), stem + "sheet.main+xml");
+  EXPECT_FALSE(std::filesystem::exists(S(folder_ / "Report 23.11.2026")));
+}
+
+TEST_F(WizardProgramTest, StandardOutputGetsOneWorkbook) {
+  S buttons;
+  const auto look = [&] {
+    for (const auto* button : test::FrontWindow()->findChildren<QPushButton*>()) {
+      if (button->isVisible()) buttons += qt::TextOf(button->text()) + ";";
+    }
+  };
+  const auto run =
+      Run(S(kNewChart) + "press cmdFinish; button Close; do look; bar Close", {{"look", look}}, "-");
+  EXPECT_EQ(run.told.back(), "The chart is built. Written to standard output.");
+  EXPECT_EQ(buttons, "&Close;");
 }
 
 }  // namespace

@@ -91,8 +91,20 @@ TEST_F(PackageFileTest, AFileThatAnotherProgramHasChangedIsNotReplaced) {
   EXPECT_EQ(test::ErrorTextOf<PackageError>([&] { second.Save(path); }),
             "another program has changed it since it was read");
   EXPECT_EQ(test::BytesOf(path), before);
-  second.Save(folder_ / "other.xlsx");
-  EXPECT_EQ(Package::Open(folder_ / "other.xlsx").Read("/xl/workbook.xml"), "<second/>");
+  const S other = folder_ / "other.xlsx";
+  for (const char* const text : {"<second/>", "<second once more/>"}) {
+    second.Replace("/xl/workbook.xml", text);
+    second.Save(other);
+    EXPECT_EQ(Package::Open(other).Read("/xl/workbook.xml"), text);
+  }
+  first.Save(other);
+  const S replaced = test::BytesOf(other);
+  EXPECT_EQ(test::ErrorTextOf<PackageError>([&] { second.Save(other); }),
+            "another program has changed it since it was saved");
+  EXPECT_EQ(test::BytesOf(other), replaced);
+  std::filesystem::remove(other);
+  second.Save(other);
+  EXPECT_EQ(Package::Open(other).Read("/xl/workbook.xml"), "<second once more/>");
 }
 
 TEST_F(PackageFileTest, APackageSavedOverItsOwnFileUsesTheNewFile) {
