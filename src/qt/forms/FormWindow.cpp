@@ -22,6 +22,15 @@ namespace {
 constexpr Qt::WindowFlags kDialogFlags =
     Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
 
+/// Returns the frame that the window manager gives a window with this owner, which may be null. The frame is
+/// unknown until the window is shown, but it is about the same as the owner's.
+QMargins FrameOf(const QWidget* owner) {
+  if (owner == nullptr) return {};
+  const QRect inside = owner->window()->geometry(), outside = owner->window()->frameGeometry();
+  return {inside.left() - outside.left(), inside.top() - outside.top(), outside.right() - inside.right(),
+          outside.bottom() - inside.bottom()};
+}
+
 }  // namespace
 
 FormWindow::FormWindow(forms::Form& form, QWidget* owner, Post post, forms::SecondPress& presses)
@@ -88,10 +97,11 @@ void FormWindow::SetTabOrders() {
   }
 }
 
-// Makes a page that is larger than the screen scrollable.
+// Makes a page that is larger than the screen with its frame scrollable.
 void FormWindow::FitScreen() {
   const QSize wanted = scroll_->widget()->sizeHint();
-  const QRect available = screen()->availableGeometry();
+  const QMargins frame = FrameOf(parentWidget());
+  const QRect available = screen()->availableGeometry().marginsRemoved(frame);
   setMinimumSize(scroll_->widget()->minimumSizeHint().boundedTo(available.size()));
   resize(wanted.boundedTo(available.size()));
   const QRect middle = parentWidget() == nullptr ? available : parentWidget()->window()->geometry();
@@ -99,7 +109,7 @@ void FormWindow::FitScreen() {
   place.moveCenter(middle.center());
   place.moveLeft(std::max(available.left(), std::min(place.left(), available.right() - place.width())));
   place.moveTop(std::max(available.top(), std::min(place.top(), available.bottom() - place.height())));
-  move(place.topLeft());
+  move(place.topLeft() - QPoint(frame.left(), frame.top()));  // This is the place of the frame.
 }
 
 void FormWindow::Update() {
