@@ -82,6 +82,8 @@ class FormulaShifter {
     if (tag.kind == XmlTag::Kind::kStart) {
       const auto closing = NextTag(part_, end);
       if (!closing) return part_.size();
+      // A data validation in the extension list has its formula in another element.
+      if (closing->kind != XmlTag::Kind::kEnd) return end;
       text.end = closing->span.begin;
       end = closing->span.end;
     }

@@ -18,6 +18,10 @@ TEST(SheetFormulasTest, OnlyTheFormulasConcernedChange) {
        "<formula>'My Data'!A7&gt;1</formula><formula1>'My Data'!A7</formula1>"},
       {"<ext><xm:f>'My Data'!A5:B9</xm:f><xm:sqref>A5</xm:sqref></ext>",
        "<ext><xm:f>'My Data'!A7:B11</xm:f><xm:sqref>A5</xm:sqref></ext>"},
+      {"<x14:formula1><xm:f>'My Data'!A5:A6</xm:f></x14:formula1><x14:formula2>\n<xm:f>'My Data'!A6</xm:f>"
+       "</x14:formula2>",
+       "<x14:formula1><xm:f>'My Data'!A7:A8</xm:f></x14:formula1><x14:formula2>\n<xm:f>'My Data'!A8</xm:f>"
+       "</x14:formula2>"},
       // A shared formula can't be adjusted as one: each cell gets its own.
       {"<c r='B4'><f t='shared' ref='B4:B6' si='3'>'My Data'!A4*$C$1</f><v>0</v></c><c r='B5'>"
        "<f t='shared' si='3'/></c><c r='B6'><f t='shared' si=\"3\"></f></c><c r='C1'><f t='shared' si='4' "
