@@ -30,9 +30,14 @@ std::string BucketValueText(double dValue) {
   const double dRounded =
       std::floor(std::abs(runtime::Val(std::string_view(runtime::NumberText(dValue)))) + 0.5);
   if (dRounded == 0) return {};
-  std::array<char, 400> aBuffer;  // The largest number has 309 digits.
-  const auto oEnd = std::to_chars(aBuffer.begin(), aBuffer.end(), dRounded, std::chars_format::fixed, 0);
-  std::string sDigits(aBuffer.data(), oEnd.ptr);
+  // A number shows 15 digits, and zeros after them.
+  constexpr int kMostDigits = 15;
+  std::array<char, 32> aBuffer;
+  const auto oEnd =
+      std::to_chars(aBuffer.begin(), aBuffer.end(), dRounded, std::chars_format::scientific, kMostDigits - 1);
+  const std::string sNumber(aBuffer.data(), oEnd.ptr);  // Such as "1.23400000000000e+03".
+  std::string sDigits = sNumber.substr(0, 1) + sNumber.substr(2, kMostDigits - 1);
+  sDigits.resize(static_cast<std::size_t>(std::stoi(sNumber.substr(kMostDigits + 2))) + 1, '0');
   for (std::size_t i = sDigits.size(); i > 3; i -= 3) sDigits.insert(i - 3, ",");
   return dValue < 0 ? "-" + sDigits : sDigits;
 }
