@@ -41,11 +41,6 @@ WORD FlagsOf(Kind kind) {
   }
 }
 
-HRESULT LookUp(IDispatch& object, const wchar_t* name, DISPID& id) {
-  auto* text = const_cast<wchar_t*>(name);
-  return object.GetIDsOfNames(IID_NULL, &text, 1, kEnglish, &id);
-}
-
 /// Returns true if a server has refused a call because it is busy. The server has done nothing then.
 bool IsBusy(HRESULT result) {
   constexpr auto kSuspended = static_cast<HRESULT>(0x800AC472);  // Excel with an open dialog or cell
@@ -75,6 +70,17 @@ class Waiting {
   DWORD waited_ = 0;
 } waiting;
 
+/// Asks an object for the number of a member. Repeats the question while the server is busy. An answer
+/// doesn't show that the server accepts calls, because the client's side of COM may know the number.
+HRESULT LookUp(IDispatch& object, const wchar_t* name, WhenBusy whenBusy, DISPID& id) {
+  auto* text = const_cast<wchar_t*>(name);
+  while (true) {
+    const HRESULT result = object.GetIDsOfNames(IID_NULL, &text, 1, kEnglish, &id);
+    if (!IsBusy(result) || whenBusy == WhenBusy::kFail || !waiting.WaitOnce()) return result;
+    ++changes;  // Incoming calls may have changed anything meanwhile.
+  }
+}
+
 /// Application.Run takes the most arguments: the macro's name and thirty arguments of the macro.
 constexpr std::size_t kMostArguments = 31;
 
@@ -99,10 +105,10 @@ struct Parameters {
 
 }  // namespace
 
-DISPID Member::IdOn(IDispatch& object) {
+DISPID Member::IdOn(IDispatch& object, WhenBusy whenBusy) {
   if (class_ == ClassOf(object)) return id_;
   DISPID id = DISPID_UNKNOWN;
-  const HRESULT result = LookUp(object, name_, id);
+  const HRESULT result = LookUp(object, name_, whenBusy, id);
   if (FAILED(result)) throw ErrorOf(result);
   if (!NumbersItsOwnMembers(object)) {
     class_ = ClassOf(object);
@@ -141,7 +147,7 @@ OwnedVariant CallById(IDispatch& object, DISPID id, Kind kind, std::span<const O
 OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
                   WhenBusy whenBusy) {
   if (object == nullptr) throw RuntimeError(runtime::error::kObjectNotSet);
-  return CallById(*object, member.IdOn(*object), kind, arguments, whenBusy);
+  return CallById(*object, member.IdOn(*object, whenBusy), kind, arguments, whenBusy);
 }
 
 OwnedVariant CallDefault(IDispatch* object) {
@@ -150,8 +156,11 @@ OwnedVariant CallDefault(IDispatch* object) {
 }
 
 bool HasMember(IDispatch* object, const wchar_t* name) {
+  if (object == nullptr) return false;
   DISPID id = DISPID_UNKNOWN;
-  return object != nullptr && SUCCEEDED(LookUp(*object, name, id));
+  const HRESULT result = LookUp(*object, name, WhenBusy::kWait, id);
+  if (IsBusy(result)) throw ErrorOf(result);
+  return SUCCEEDED(result);
 }
 
 std::uint64_t CallCount() { return calls; }

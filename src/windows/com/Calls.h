@@ -13,6 +13,9 @@
 /// first call.
 namespace plotsmith::com {
 
+/// Whether a call is repeated if the server refuses it because it is busy.
+enum class WhenBusy { kWait, kFail };
+
 /// A member of a class, given by its name. The object stores the member's number (DISPID), which all objects
 /// of the class share. Make one Member for each member of each class, and reuse it.
 class Member {
@@ -22,8 +25,9 @@ class Member {
   Member(const Member&) = delete;
   Member& operator=(const Member&) = delete;
 
-  /// Returns the member's number on an object. Raises error 438 if the object has no such member.
-  DISPID IdOn(IDispatch& object);
+  /// Returns the member's number on an object. Raises error 438 if the object has no such member, and the
+  /// server's error if it is busy.
+  DISPID IdOn(IDispatch& object, WhenBusy whenBusy);
 
  private:
   const wchar_t* name_;
@@ -39,9 +43,6 @@ enum class Kind {
   kFind,  ///< a method that has no side effect
 };
 
-/// Whether a call is repeated if the server refuses it because it is busy.
-enum class WhenBusy { kWait, kFail };
-
 /// Calls a member. The last argument of kPut is the new value. If the call fails, raises a RuntimeError with
 /// the server's number and text. Raises error 91 for a null object.
 OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const OwnedVariant> arguments,
@@ -51,7 +52,8 @@ OwnedVariant Call(IDispatch* object, Member& member, Kind kind, std::span<const 
 /// as Call.
 OwnedVariant CallDefault(IDispatch* object);
 
-/// Returns true if an object has a member with this name. Doesn't call the member.
+/// Returns true if an object has a member with this name. Doesn't call the member. Raises the server's error
+/// if it stays busy.
 bool HasMember(IDispatch* object, const wchar_t* name);
 
 /// The number of calls so far, including repeated ones.

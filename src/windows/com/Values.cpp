@@ -26,8 +26,10 @@ Variant Plain(const VARIANT& value);
 
 /// Returns a copy that contains no reference (VT_BYREF).
 OwnedVariant Dereferenced(const VARIANT& value) {
+  const VARIANT* plain = &value;
+  while (V_VT(plain) == (VT_BYREF | VT_VARIANT)) plain = V_VARIANTREF(plain);
   OwnedVariant copy;
-  const HRESULT result = VariantCopyInd(copy.Put(), const_cast<VARIANT*>(&value));
+  const HRESULT result = VariantCopyInd(copy.Put(), const_cast<VARIANT*>(plain));
   if (FAILED(result)) throw ErrorOf(result);
   return copy;
 }
@@ -140,6 +142,8 @@ void PutElement(const OwnedVariant& array, LONG* position, const Variant& item) 
 
 /// Returns one item of an array of type `type` as a VARIANT.
 OwnedVariant ItemAt(SAFEARRAY* array, VARTYPE type, LONG position) {
+  // A record can be larger than a VARIANT, and SafeArrayGetElement would copy all of it.
+  if (type == VT_RECORD) throw RuntimeError(error::kTypeMismatch);
   OwnedVariant item;
   HRESULT result;
   if (type == VT_VARIANT) {

@@ -1,10 +1,13 @@
 #include "windows/desktop/WindowsDesktop.h"
 
+#include <optional>
+
 #include "common/App.h"
 #include "common/PSConstants.h"
 #include "windows/com/Calls.h"
 #include "windows/com/Texts.h"
 #include "windows/com/Windows.h"
+#include "windows/desktop/DisabledWindows.h"
 #include "windows/desktop/HtmlHelp.h"
 
 namespace plotsmith::windows {
@@ -39,8 +42,14 @@ std::int32_t WindowsDesktop::MsgBox(std::string_view text, desktop::Buttons butt
   const HWND owner = WindowOf(Owner());
   UINT style = buttons == desktop::Buttons::kOkCancel ? MB_OKCANCEL : MB_OK;
   if (icon == desktop::Icon::kCritical) style |= MB_ICONERROR;
-  // MB_TASKMODAL disables this thread's windows if the box has no owner.
-  if (owner == nullptr) style |= MB_TASKMODAL;
+  // The box disables only its owner, but Excel has a window for each workbook. Without an owner, MB_TASKMODAL
+  // disables all windows of this thread.
+  std::optional<DisabledWindows> otherWindows;
+  if (owner == nullptr) {
+    style |= MB_TASKMODAL;
+  } else {
+    otherWindows.emplace(owner);
+  }
   const int answer = MessageBoxW(owner, com::Wide(text).c_str(),
                                  com::Wide(title.empty() ? kProductTitle : title).c_str(), style);
   com::NoteChange();  // Other windows could handle messages while the box was open.

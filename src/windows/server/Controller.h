@@ -29,7 +29,7 @@ class Controller final : public IPlotsmithController, public IProvideClassInfo {
                       EXCEPINFO*, UINT* badArgument) noexcept override;
   ///@}
 
-  /// The operations of CPlotsmithController, which describes them.
+  /// The operations, which controller/IPlotsmithController.h describes.
   ///@{
   STDMETHODIMP RunPlotsmith(IDispatch* oApplication, BSTR sCustomAppName, BSTR sHelpFile) noexcept override;
   STDMETHODIMP RefreshPlotsmithData(IDispatch* oApplication, BSTR sCustomAppName,

@@ -4,9 +4,9 @@
 #include <optional>
 
 #include "forms/Form.h"
+#include "windows/desktop/DisabledWindows.h"
 #include "windows/views/Annotations.h"
 #include "windows/views/ControlViews.h"
-#include "windows/views/DisabledWindows.h"
 #include "windows/views/ScrolledPage.h"
 
 namespace plotsmith::windows {

@@ -20,7 +20,7 @@ constexpr double kPointsPerInch = 72;
 }  // namespace
 
 LabelView::LabelView(forms::Label& model, const Stage& stage)
-    : ControlView(model, stage, {WC_STATICW, SS_LEFT}), model_(model) {}
+    : ControlView(model, stage, {WC_STATICW, SS_LEFT | SS_NOPREFIX}), model_(model) {}
 
 // In some fonts a last "t" or "f" is painted past the width of the text.
 forms::Size LabelView::LeastSize() const {

@@ -73,11 +73,15 @@ std::optional<LRESULT> ScrolledPage::Handle(UINT message, WPARAM wParam, LPARAM 
       ScrollTo(message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
       return 0;
     case WM_MOUSEWHEEL:
-      Scroll(SB_VERT, -MulDiv(GET_WHEEL_DELTA_WPARAM(wParam), 3 * kLine, WHEEL_DELTA));
+      Scroll(SB_VERT, -MulDiv(GET_WHEEL_DELTA_WPARAM(wParam), 3 * LineHeight(), WHEEL_DELTA));
       return 0;
     default:
       return std::nullopt;
   }
+}
+
+int ScrolledPage::LineHeight() const {
+  return MulDiv(kLine, static_cast<int>(fonts_->Dpi()), USER_DEFAULT_SCREEN_DPI);
 }
 
 void ScrolledPage::UseDpi(UINT dpi) {
@@ -182,9 +186,9 @@ void ScrolledPage::ScrollTo(int bar, WORD request) {
   const auto page = static_cast<int>(info.nPage);
   switch (request) {
     case SB_LINEUP:
-      return Scroll(bar, -kLine);
+      return Scroll(bar, -LineHeight());
     case SB_LINEDOWN:
-      return Scroll(bar, kLine);
+      return Scroll(bar, LineHeight());
     case SB_PAGEUP:
       return Scroll(bar, -page);
     case SB_PAGEDOWN:

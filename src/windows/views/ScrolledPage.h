@@ -30,6 +30,8 @@ class ScrolledPage {
   void Show(const ControlView& view);
 
  private:
+  /// Returns the distance that one click on an arrow of a scroll bar scrolls, in pixels.
+  int LineHeight() const;
   void UseDpi(UINT dpi);
   /// Returns the size of the client area, including scroll bars.
   forms::Size Room() const;

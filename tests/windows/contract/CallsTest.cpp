@@ -122,6 +122,26 @@ TEST(CallsTest, ACallToABusyServerIsRepeated) {
   }
 }
 
+TEST(CallsTest, TheNameOfAMemberIsLookedUpAgainWhileTheServerIsBusy) {
+  const auto fine = [](WORD, const DISPPARAMS&, VARIANT*, EXCEPINFO*) { return S_OK; };
+  for (const HRESULT busy : {RPC_E_CALL_REJECTED, RPC_E_SERVERCALL_RETRYLATER}) {
+    FakeDispatch object(fine);
+    object.refusal = busy;
+    com::Member called(L"Known"), refused(L"Known");
+    object.refusedLookUps = 2;
+    SAYS((void)com::Call(&object, called, com::Kind::kGet, {}), "done");
+    EXPECT_EQ(object.lookUps, 3);
+    object.refusedLookUps = 2;
+    EXPECT_TRUE(com::HasMember(&object, L"Known"));
+    object.refusedLookUps = 2;
+    EXPECT_FALSE(com::HasMember(&object, L"Unknown"));
+    object.refusedLookUps = 1;
+    EXPECT_NE(Answer([&] { (void)com::Call(&object, refused, com::Kind::kGet, {}, com::WhenBusy::kFail); }),
+              "done");
+    EXPECT_EQ(object.lookUps, 10);
+  }
+}
+
 TEST(CallsTest, TheWaitForABusyServerIsShort) {
   com::Member member(L"Known");
   HRESULT answer = kSuspended;

@@ -17,7 +17,9 @@ class FakeDispatch final : public IDispatch {
 
   explicit FakeDispatch(Call call) : call_(std::move(call)) {}
 
-  int lookUps = 0;        ///< number of look-ups of names; names that begin with "Unknown" don't exist
+  int lookUps = 0;         ///< number of look-ups of names; names that begin with "Unknown" don't exist
+  int refusedLookUps = 0;  ///< the number of the next look-ups that are refused with `refusal`
+  HRESULT refusal = RPC_E_CALL_REJECTED;
   std::wstring lastName;  ///< the name of the member that was last called
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
@@ -34,6 +36,7 @@ class FakeDispatch final : public IDispatch {
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* wanted, UINT, LCID,
                                           DISPID* ids) noexcept override {
     ++lookUps;
+    if (refusedLookUps > 0 && refusedLookUps-- > 0) return refusal;
     const auto known = std::ranges::find(Names(), wanted[0]);
     ids[0] = static_cast<DISPID>(known - Names().begin()) + 1;
     if (known == Names().end()) Names().emplace_back(wanted[0]);

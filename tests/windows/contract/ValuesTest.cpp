@@ -30,6 +30,10 @@ TEST(ValuesTest, ValuesSurviveBothConversions) {
     V_VT(&reference) = VT_BYREF | VT_VARIANT;
     V_VARIANTREF(&reference) = const_cast<VARIANT*>(&there.Get());
     EXPECT_EQ(com::FromVariant(reference), value) << Words(value);
+    VARIANT outer;
+    V_VT(&outer) = VT_BYREF | VT_VARIANT;
+    V_VARIANTREF(&outer) = &reference;
+    EXPECT_EQ(com::FromVariant(outer), value) << Words(value);
   }
 }
 
@@ -89,6 +93,19 @@ TEST(ValuesTest, ArraysOfAnyTypeAreLists) {
             (std::vector<std::string>{"a", "2", "True"}));
   SAYS(com::ListOf(com::ToArray(std::vector<std::string>{}).Get()), "");
   SAYS(com::ListOf(com::ToVariant("text").Get()), "error 13: Type mismatch");
+
+  // A record can be larger than a VARIANT.
+  SAFEARRAY* records = nullptr;
+  ASSERT_HRESULT_SUCCEEDED(SafeArrayAllocDescriptorEx(VT_RECORD, 1, &records));
+  records->cbElements = 1 << 20;
+  records->rgsabound[0] = {1, 0};
+  ASSERT_HRESULT_SUCCEEDED(SafeArrayAllocData(records));
+  VARIANT ofRecords;
+  V_VT(&ofRecords) = VT_ARRAY | VT_RECORD;
+  V_ARRAY(&ofRecords) = records;
+  const com::OwnedVariant ownRecords(ofRecords);
+  SAYS(com::ListOf(ownRecords.Get()), "error 13: Type mismatch");
+
   com::CellArrayWriter cells(2, 3);
   cells.Set(1, 2, "last");
   const com::OwnedVariant table = cells.Take();

@@ -1,4 +1,4 @@
-#include "windows/views/DisabledWindows.h"
+#include "windows/desktop/DisabledWindows.h"
 
 #include <algorithm>
 
@@ -14,8 +14,9 @@ BOOL CALLBACK Collect(HWND window, LPARAM windows) {
 
 }  // namespace
 
-DisabledWindows::DisabledWindows() {
+DisabledWindows::DisabledWindows(HWND except) {
   EnumThreadWindows(GetCurrentThreadId(), Collect, reinterpret_cast<LPARAM>(&windows_));
+  std::erase(windows_, except);
   std::ranges::for_each(windows_, [](HWND window) { EnableWindow(window, FALSE); });
 }
 

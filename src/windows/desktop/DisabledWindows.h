@@ -3,13 +3,15 @@
 #include <vector>
 
 #include "windows/com/Windows.h"
+
 namespace plotsmith::windows {
 
-/// Disables all windows of this thread while this object exists. Excel has a window for each workbook.
+/// Disables the windows of this thread while this object exists. Excel has a window for each workbook.
 /// Windows that were disabled before stay disabled afterwards.
 class DisabledWindows {
  public:
-  DisabledWindows();
+  /// Disables all visible windows but `except`, which may be null.
+  explicit DisabledWindows(HWND except = nullptr);
   ~DisabledWindows();
   DisabledWindows(const DisabledWindows&) = delete;
   DisabledWindows& operator=(const DisabledWindows&) = delete;
