@@ -23,7 +23,8 @@ struct GlobalOptions {
 namespace exit_code {
 inline constexpr int kDone = 0;              ///< The command did its work, and there was no message.
 inline constexpr int kDoneWithMessages = 1;  ///< The command did its work, and there was a message.
-/// The arguments are wrong, or a part of Plotsmith isn't installed. Nothing was changed.
+/// The arguments or a script are wrong, a page rejected its input, or a part of Plotsmith isn't installed.
+/// Nothing was changed.
 inline constexpr int kUsage = 2;
 /// A workbook or the output can't be read or written, or definitions would be lost. Nothing was changed.
 inline constexpr int kFile = 3;

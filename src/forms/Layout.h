@@ -25,7 +25,7 @@ struct Layout {
   const Control* control = nullptr;  ///< The control of kControl.
   std::vector<Layout> parts;         ///< The parts in reading order; for a frame, the part inside.
   int columns = 0;                   ///< The number of columns of kGrid.
-  int stretch = 0;                   ///< The share of the extra space; 0 for none while other parts stretch.
+  int stretch = 0;     ///< The share of the extra space. A part with 0 gets some only if all parts have 0.
   int characters = 0;  ///< The minimum width in average characters; 0 for the width of the control.
   int lines = 0;       ///< The minimum height in lines; 0 for the height of the control.
 

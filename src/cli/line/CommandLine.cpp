@@ -19,10 +19,10 @@ constexpr const char* kDescription =
     "replaced, in a single step.";
 
 constexpr const char* kFooter =
-    "Exit codes: 0 success, 1 success with a message from Plotsmith, 2 wrong usage or a missing\n"
-    "part of Plotsmith, 3 the workbook or the output could not be read or written, or definitions\n"
-    "of charts would have been lost, and nothing was changed; 128 plus the number of a signal that\n"
-    "stopped it.";
+    "Exit codes: 0 success, 1 success with a message from Plotsmith, 2 wrong usage, a wrong script,\n"
+    "input that a page rejects, or a missing part of Plotsmith, 3 the workbook or the output could\n"
+    "not be read or written, or definitions of charts would have been lost. With 2 and 3 nothing was\n"
+    "changed. 128 plus the number of a signal that stopped it.";
 
 }  // namespace
 

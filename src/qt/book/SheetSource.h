@@ -49,8 +49,9 @@ struct ShownFrame {
 /// Returns the index of the chart with this alternative text, or the number of frames if there is none.
 std::size_t FindChart(const std::vector<ShownFrame>& frames, const std::string& alternativeText);
 
-/// Reads a worksheet of the embedded host for a window. Each function asks the host for the current state,
-/// and nothing about the sheet is kept. Throws RuntimeError if the sheet was deleted or can't be read.
+/// Reads a worksheet of the embedded host for a window. Each function asks the host for the current state;
+/// only the looks of styles are kept, until DiscardLooks. Throws RuntimeError if the sheet was deleted or
+/// can't be read.
 class SheetSource {
  public:
   /// Makes a reader for a sheet. `book` must outlive it.

@@ -92,7 +92,7 @@ class CellStore {
     if (column < 1 || column > static_cast<std::int32_t>(columns_.size())) return 0;
     return columns_[static_cast<std::size_t>(column) - 1].NextRow(row);
   }
-  /// Number of cells that aren't empty.
+  /// The number of cells that were added, including empty ones.
   std::uint64_t CellCount() const { return count_; }
 
   TextPool texts;  ///< The sheet's own texts: inline strings, results of formulas, error values.

@@ -41,7 +41,7 @@ struct SheetRange {
 
 /// Returns the letters of a column, from 1.
 std::string ColumnLetters(std::int32_t column);
-/// Returns "A1".
+/// Returns the address of a cell without dollar signs, such as "C5".
 std::string CellAddress(std::int32_t row, std::int32_t column);
 /// Returns "$A$1" for one cell, "$A$1:$B$2" for several cells, "$1:$2" for whole rows, or "$A:$B" for whole
 /// columns.
