@@ -168,6 +168,22 @@ TEST_F(LayoutTest, ThePlotAreaKeepsItsLeastShareOfTheChart) {
   }
 }
 
+TEST_F(LayoutTest, TheLabelsOfSmallChartsAreOnThemWhateverTheirUnitIs) {
+  const Texts regions = {"Region 1", "Region 2", "Region 3", "Region 4", "Region 5", "Region 6"};
+  const S format = "<c:numFmt formatCode=\"#,##0\" sourceLinked=\"0\"/>";
+  for (const double most : {7.5, 750.0, 75000.0, 750000.0, 7.5e7}) {
+    const S columns = ColumnsXml(SeriesXml(0, {most, most / 2, most / 3, most / 4, most / 5, most / 6}, "",
+                                           "", CategoriesXml(regions)));
+    const S chart = PlotXml(columns + AxesXml("", format));
+    OpenChart(ChartPartXml(chart));
+    for (double width = 120; width <= 330; width += 15) {
+      for (double height = 75; height <= 210; height += 7.5) {
+        EXPECT_EQ(DrawingComplaints(DrawOpen(width, height)), "") << most << " " << width << " " << height;
+      }
+    }
+  }
+}
+
 TEST_F(LayoutTest, TitlesWrapKeepTheirRunsAndTakeSpace) {
   const S title =
       "<c:title><c:tx><c:rich><a:bodyPr/><a:p><a:r><a:rPr sz=\"1400\" b=\"0\" u=\"sng\"/>"

@@ -43,6 +43,12 @@ Rect Without(const Rect& rect, const Edges& edges) {
           rect.height - edges.top - edges.bottom};
 }
 
+/// Returns the larger distance at each edge.
+Edges Widest(const Edges& a, const Edges& b) {
+  return {std::max(a.left, b.left), std::max(a.top, b.top), std::max(a.right, b.right),
+          std::max(a.bottom, b.bottom)};
+}
+
 /// Returns a rectangle enlarged to at least the minimum share of the chart, and moved so that it stays in
 /// `room`.
 Rect KeepLeast(Rect rect, const Rect& bounds, const Rect& room) {
@@ -164,9 +170,13 @@ class Layouter {
   /// Fits the plot area and the labels around it. The labels affect the size of the plot area, which in turn
   /// affects the labels.
   void FitPlot(bool inner) {
-    for (int pass = 0; pass < 3; ++pass) {
+    constexpr int kFreePasses = 3;  // After these passes, the plot area only shrinks.
+    constexpr int kMostPasses = 6;
+    Edges around;
+    for (int pass = 0; pass < kMostPasses; ++pass) {
+      around = pass < kFreePasses ? rooms_ : Widest(around, rooms_);
       const Rect before = layout_.plot;
-      layout_.plot = KeepLeast(Without(layout_.outer, rooms_), bounds_, layout_.outer);
+      layout_.plot = KeepLeast(Without(layout_.outer, around), bounds_, layout_.outer);
       if (inner) layout_.plot = KeepLeast(Applied(*chart_.layout, bounds_, layout_.plot), bounds_, bounds_);
       if (pass > 0 && layout_.plot == before) return;  // The labels would be the same.
       SetTickLabels();
