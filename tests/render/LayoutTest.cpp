@@ -211,6 +211,34 @@ TEST_F(LayoutTest, TitlesWrapKeepTheirRunsAndTakeSpace) {
   EXPECT_EQ(BoxOf(DrawColumns("", "", overlay), Role::kPlotArea), BoxOf(without, Role::kPlotArea));
 }
 
+TEST_F(LayoutTest, BlankLinesOfATitleHaveTheHeightOfTheirFont) {
+  const S above = "<a:r><a:rPr sz=\"1400\"/><a:t>above</a:t></a:r>";
+  const S below = "<a:r><a:rPr sz=\"1400\"/><a:t>below</a:t></a:r>";
+  const S end = "</a:p><a:p>", format = "<a:pPr><a:defRPr sz=\"2800\"/></a:pPr>";
+  const struct {
+    const char* what;
+    S text;
+    double lines;  // the distance of the two texts, in heights of a line
+  } cases[] = {
+      {"no blank line", above + end + below, 1},
+      {"an empty paragraph", above + end + "<a:endParaRPr sz=\"1400\"/>" + end + below, 2},
+      {"a small one", above + end + "<a:endParaRPr sz=\"700\"/>" + end + below, 1.5},
+      {"one in the format of its paragraph", above + end + format + end + below, 3},
+      {"two", above + end + "<a:endParaRPr sz=\"1400\"/>" + end + "<a:endParaRPr sz=\"1400\"/>" + end + below,
+       3},
+      {"an empty run", above + end + "<a:r><a:t/></a:r><a:endParaRPr sz=\"1400\"/>" + end + below, 2},
+      {"two breaks", above + "<a:br/><a:br><a:rPr sz=\"1400\"/></a:br>" + below, 2},
+  };
+  for (const auto& test : cases) {
+    const S title = runtime::Replace(TitleXml("text"), "<a:r><a:t>text</a:t></a:r>", test.text);
+    const Drawing drawing = DrawColumns("", "", title);
+    EXPECT_EQ(TextsOf(drawing, Role::kTitle), (Texts{"above", "below"})) << test.what;
+    const auto lines = BoxesOf(drawing, Role::kTitle);
+    ASSERT_EQ(lines.size(), 2u) << test.what;
+    EXPECT_NEAR((lines[1].top - lines[0].top) / lines[0].height, test.lines, 0.01) << test.what;
+  }
+}
+
 TEST_F(LayoutTest, AWordThatIsWiderThanItsLineBreaksInside) {
   struct {
     const char* what;

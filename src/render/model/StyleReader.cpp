@@ -235,14 +235,24 @@ RichText ReadText(xlsx::ChartPart& part, pugi::xml_node element, xlsx::TextRole 
   std::size_t next = 0;  // There are looks for the runs with a text, in their order.
   for (const pugi::xml_node& paragraph : xml::Children(rich, "p")) {
     text.paragraphs.emplace_back();
+    const auto endLine = [&](pugi::xml_node properties) {
+      auto& line = text.paragraphs.back();
+      if (!line.empty()) return;
+      const xlsx::TextLook look = xlsx::LookOfRun(part, element, paragraph, properties, role);
+      line.push_back({"", FontOf(look), FromExcel(look.color)});
+    };
     for (const pugi::xml_node& run : paragraph.children()) {
-      if (xml::Is(run, "br")) text.paragraphs.emplace_back();
+      if (xml::Is(run, "br")) {
+        endLine(xml::Child(run, "rPr"));
+        text.paragraphs.emplace_back();
+      }
       if (!xml::Is(run, "r") && !xml::Is(run, "fld")) continue;
       const std::string words = xml::Text(xml::Child(run, "t"));
       if (words.empty()) continue;
       const xlsx::TextLook& look = looks[std::min(next++, looks.size() - 1)];
       text.paragraphs.back().push_back({words, FontOf(look), FromExcel(look.color)});
     }
+    endLine(xml::Child(paragraph, "endParaRPr"));
   }
   return text;
 }

@@ -24,7 +24,7 @@ struct TextRun {
 };
 /// A text of paragraphs, which consist of runs.
 struct RichText {
-  /// The paragraphs from top to bottom. Each is a list of runs, which is empty for an empty line.
+  /// The paragraphs from top to bottom. Each is a list of runs. The run of a blank line has no text.
   std::vector<std::vector<TextRun>> paragraphs;
   std::optional<double> rotation;  ///< The rotation in degrees clockwise; absent if it is automatic.
   bool stacked = false;            ///< Whether characters are stacked vertically.

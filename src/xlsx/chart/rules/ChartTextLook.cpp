@@ -95,6 +95,11 @@ std::vector<TextLook> LooksOf(ChartPart& part, pugi::xml_node element, TextRole 
   return looks;
 }
 
+TextLook LookOfRun(ChartPart& part, pugi::xml_node element, pugi::xml_node paragraph,
+                   pugi::xml_node properties, TextRole role) {
+  return Look(part, {properties, DefaultsOf(paragraph), DefaultsOfBody(xml::Child(element, "txPr"))}, role);
+}
+
 std::vector<TextLook> LooksOfLegend(ChartPart& part, pugi::xml_node legend) {
   const auto own = DefaultsOfBody(xml::Child(legend, "txPr"));
   std::vector<TextLook> looks = {Look(part, {own}, TextRole::kOther)};
