@@ -220,6 +220,37 @@ TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
   }
 }
 
+TEST_F(FamiliesTest, LinesAreInterruptedAtNumbersThatAreNotOnALogarithmicScale) {
+  constexpr double kGap = kNoValue;
+  const S decades = ScalingXml("1", "10000000000", "<c:logBase val=\"10\"/>");
+  const Numbers places = {1, 2, 3, 4, 5}, powers = {10, 100, 1000, 1e4, 1e5};
+  const Numbers withZero = {10, 100, 0, 1e4, 1e5}, withNegative = {1, 2, -3, 4, 5};
+  const struct {
+    const char* what;
+    S chart;
+    Numbers heights;
+  } cases[] = {
+      {"values of a line", LinesXml(SeriesXml(0, withZero)) + AxesXml("", decades), {1, 2, kGap, 4, 5}},
+      {"Y values",
+       GroupXml("scatterChart", "", PointsXml(0, places, withZero)) + ValueAxesXml("", decades),
+       {1, 2, kGap, 4, 5}},
+      {"X values",
+       GroupXml("scatterChart", "", PointsXml(0, withNegative, powers)) + ValueAxesXml(decades, decades),
+       {1, 2, kGap, 4, 5}},
+      {"X values on a linear scale",
+       GroupXml("scatterChart", "", PointsXml(0, withNegative, powers)) + ValueAxesXml("", decades),
+       {1, 2, 3, 4, 5}},
+  };
+  for (const auto& test : cases) {
+    Texts expected, found;
+    for (const double height : test.heights) expected.push_back(xlsx::xml::Number(height));
+    for (const double height : HeightsOf(Draw(PlotXml(test.chart)), 1)) {
+      found.push_back(xlsx::xml::Number(height + 0.0));
+    }
+    EXPECT_EQ(found, expected) << test.what;
+  }
+}
+
 TEST_F(FamiliesTest, BlanksOfRadarChartsInterruptTheirOutline) {
   // The steps of the outline: moves, lines, and Z if it is closed.
   const std::pair<S, S> cases[] = {{"gap", "MLM"}, {"span", "MLLZ"}, {"zero", "MLLLLZ"}};

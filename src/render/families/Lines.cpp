@@ -176,7 +176,7 @@ void DrawLines(Plot& plot, const GroupModel& group) {
       if (group.IsStacked()) pile[i] = value;
       LinePoint& point = points.emplace_back();
       point.index = i;
-      point.present = std::isfinite(value) && (!valueAxis->logBase || value > 0);
+      point.present = valueAxis->HasPositionOf(value);
       if (point.present) point.place = {categories.OfCategory(static_cast<double>(i)), values.OfValue(value)};
       if (std::isfinite(extents.to[s][i])) bars.Add(series, i, point.place.x, value);
     }
@@ -199,7 +199,8 @@ void DrawScatter(Plot& plot, const GroupModel& group) {
     for (std::size_t i = 0; i < series.values.size(); ++i) {
       LinePoint& point = points.emplace_back();
       point.index = i;
-      point.present = i < series.x.size() && std::isfinite(series.values[i]) && std::isfinite(series.x[i]);
+      point.present = i < series.x.size() && xAxis->HasPositionOf(series.x[i]) &&
+                      valueAxis->HasPositionOf(series.values[i]);
       if (!point.present) continue;
       point.place = {across.OfX(series.x[i]), values.OfValue(series.values[i])};
       bars.Add(series, i, point.place.x, series.values[i]);

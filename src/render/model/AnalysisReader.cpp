@@ -354,9 +354,7 @@ namespace {
 
 /// Returns true if the axes show a part of a trendline.
 bool IsOnAxes(const Trendline& line, const AxisModel& across, const AxisModel& values) {
-  const auto isPresent = [&](Point point) {
-    return std::isfinite(point.x) && std::isfinite(point.y) && (!values.logBase || point.y > 0);
-  };
+  const auto isPresent = [&](Point point) { return std::isfinite(point.x) && values.HasPositionOf(point.y); };
   if (!line.curve) {
     const auto bothPresent = [&](Point a, Point b) { return isPresent(a) && isPresent(b); };
     return std::adjacent_find(line.points.begin(), line.points.end(), bothPresent) != line.points.end();

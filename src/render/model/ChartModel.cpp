@@ -106,6 +106,8 @@ bool AxisModel::Shows(std::size_t category) const {
   return position >= 0 && position < dates->count;
 }
 
+bool AxisModel::HasPositionOf(double value) const { return std::isfinite(value) && (!logBase || value > 0); }
+
 double AxisModel::SlotCount() const {
   return std::max(dates ? dates->count : static_cast<double>(categories.size()), 1.0);
 }

@@ -423,6 +423,9 @@ struct AxisModel {
   double SlotCount() const;
   /// Returns the X values at the ends of the axis, as AxisMap::OfX takes them.
   std::pair<double, double> EndsOfX() const;
+  /// Returns true if a value has a position along the axis: it is finite, and above zero on a logarithmic
+  /// scale.
+  bool HasPositionOf(double value) const;
   /// Returns true if values lie along the axis.
   bool IsOfValues() const { return kind == AxisKind::kValue; }
 };
