@@ -220,6 +220,92 @@ TEST_F(FamiliesTest, BlanksOfLinesAreGapsUnlessTheFileSaysOtherwise) {
   }
 }
 
+/// Returns the extension that tells whether #N/A is drawn as a blank cell.
+S UnavailableXml(const S& blank) {
+  return "<c:extLst><c:ext uri=\"{56B9EC1D-385E-4148-901F-78D8002777C0}\" "
+         "xmlns:c16r3=\"http://schemas.microsoft.com/office/drawing/2017/03/chart\">"
+         "<c16r3:dataDisplayOptions16><c16r3:dispNaAsBlank val=\"" +
+         blank + "\"/></c16r3:dataDisplayOptions16></c:ext></c:extLst>";
+}
+
+TEST_F(FamiliesTest, LinesPassOverUnavailableValuesUnlessTheFileSaysOtherwise) {
+  constexpr double kGap = kNoValue;
+  const S gap = "<c:dispBlanksAs val=\"gap\"/>", zero = "<c:dispBlanksAs val=\"zero\"/>";
+  const Numbers places = {1, 2, 3, 4, 5}, values = {1, 2, 77, 4, 5};
+  const S line = LinesXml(SeriesXml(0, values)) + AxesXml("", ScalingXml("0", "10"));
+  const S scatter =
+      GroupXml("scatterChart", "", PointsXml(0, places, values)) + ValueAxesXml("", ScalingXml("0", "10"));
+  const S ownLook = "<c:dPt><c:idx val=\"4\"/><c:spPr><a:ln w=\"12700\"/></c:spPr></c:dPt>";
+  const S segments = LinesXml(SeriesXml(0, values, ownLook)) + AxesXml("", ScalingXml("0", "10"));
+  const struct {
+    S chart, text, behind;
+    Numbers heights;
+  } cases[] = {
+      {line, "#N/A", gap, {1, 2, 4, 5}},
+      {line, "#N/A", zero, {1, 2, 4, 5}},
+      {line, "#N/A", gap + UnavailableXml("0"), {1, 2, 4, 5}},
+      {line, "#N/A", gap + UnavailableXml("1"), {1, 2, kGap, 4, 5}},
+      {line, "#N/A", zero + UnavailableXml("1"), {1, 2, 0, 4, 5}},
+      {line, "#DIV/0!", gap, {1, 2, kGap, 4, 5}},
+      {segments, "#N/A", gap, {1, 2, 4, kGap, 4, 5}},
+      {scatter, "#N/A", gap, {1, 2, 4, 5}},
+      {scatter, "#N/A", gap + UnavailableXml("1"), {1, 2, kGap, 4, 5}},
+      {scatter, "#DIV/0!", gap, {1, 2, kGap, 4, 5}},
+  };
+  for (const auto& test : cases) {
+    const S chart =
+        runtime::Replace(PlotXml(test.chart, test.behind), "<c:v>77</c:v>", "<c:v>" + test.text + "</c:v>");
+    Texts expected, found;
+    for (const double height : test.heights) expected.push_back(xlsx::xml::Number(height));
+    for (const double height : HeightsOf(Draw(chart), 1)) found.push_back(xlsx::xml::Number(height + 0.0));
+    EXPECT_EQ(found, expected) << chart;
+  }
+}
+
+TEST_F(FamiliesTest, AreasPassOverUnavailableValues) {
+  const struct {
+    const char *grouping, *text;
+    Numbers heights;  // of the outline, from the first point to the last one and back
+  } cases[] = {
+      {"standard", "#N/A", {1, 2, 4, 5, 0, 0, 0, 0}},
+      {"standard", "#DIV/0!", {1, 2, 0, 4, 5, 0, 0, 0, 0, 0}},
+      {"stacked", "#N/A", {1, 2, 0, 4, 5, 0, 0, 0, 0, 0}},
+  };
+  for (const auto& test : cases) {
+    const S series =
+        runtime::Replace(SeriesXml(0, {1, 2, 77, 4, 5}), "<c:v>77<", S("<c:v>") + test.text + "<");
+    const Drawing drawing =
+        Draw(PlotXml(GroupXml("areaChart", S("<c:grouping val=\"") + test.grouping + "\"/>", series) +
+                     AxesXml("", ScalingXml("0", "10"))));
+    const Rect plot = BoxOf(drawing, Role::kPlotArea);
+    Numbers heights;
+    for (const PathStep& step : std::get<PathItem>(ItemsOf(drawing, Role::kArea)[0].content).path.Steps()) {
+      if (step.kind == PathStep::Kind::kClose) continue;
+      heights.push_back(std::round((plot.Bottom() - step.to.y) / plot.height * 1e6) / 1e5 + 0.0);
+    }
+    EXPECT_EQ(heights, test.heights) << test.grouping << test.text;
+  }
+}
+
+TEST_F(FamiliesTest, LinesPassOverUnavailableCells) {
+  const S series =
+      "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:val><c:numRef><c:f>Sheet1!$C$2:$C$4</c:f></c:numRef>"
+      "</c:val></c:ser>";
+  const struct {
+    int error;
+    std::size_t points;  // of the line
+  } cases[] = {{2042, 2}, {2007, 0}};
+  for (const auto& test : cases) {
+    OpenChart(ChartPartXml(PlotXml(LinesXml(series) + AxesXml(), "<c:dispBlanksAs val=\"gap\"/>")));
+    Book().FindWorksheet("Sheet1")->Cells(3, 3)->SetValue(excel::Variant::Error{test.error});
+    std::size_t points = 0;
+    for (const Item& line : ItemsOf(DrawOpen(), Role::kLine)) {
+      points += std::get<PathItem>(line.content).path.Steps().size();
+    }
+    EXPECT_EQ(points, test.points) << test.error;
+  }
+}
+
 TEST_F(FamiliesTest, LinesAreInterruptedAtNumbersThatAreNotOnALogarithmicScale) {
   constexpr double kGap = kNoValue;
   const S decades = ScalingXml("1", "10000000000", "<c:logBase val=\"10\"/>");

@@ -171,6 +171,7 @@ void DrawLines(Plot& plot, const GroupModel& group) {
     const SeriesModel& series = group.series[s];
     std::vector<LinePoint> points;
     for (const std::size_t i : OrderAlong(*categoryAxis, series.values.size())) {
+      if (series.bridged.contains(i)) continue;
       double value = extents.to[s][i];
       if (!std::isfinite(value) && (plot.chart.blanks == "zero" || group.IsStacked())) value = pile[i];
       if (group.IsStacked()) pile[i] = value;
@@ -197,6 +198,7 @@ void DrawScatter(Plot& plot, const GroupModel& group) {
   for (const SeriesModel& series : group.series) {
     std::vector<LinePoint> points;
     for (std::size_t i = 0; i < series.values.size(); ++i) {
+      if (series.bridged.contains(i)) continue;
       LinePoint& point = points.emplace_back();
       point.index = i;
       point.present = i < series.x.size() && xAxis->HasPositionOf(series.x[i]) &&

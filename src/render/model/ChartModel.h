@@ -176,6 +176,9 @@ struct SeriesModel {
   std::string name;
   /// The values of the points. NaN is a point without a value.
   std::vector<double> values;
+  /// The points with the value #N/A that lines and areas pass over, by index from 0. The setting to draw them
+  /// as blank cells leaves this empty.
+  std::set<std::size_t> bridged;
   /// The X values of a scatter or bubble chart. They are 1, 2, 3, ... if the file has texts instead.
   std::vector<double> x;
   /// The sizes of bubbles.

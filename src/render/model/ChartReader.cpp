@@ -116,6 +116,19 @@ void ReadGroups(ReadingContext& context, ChartModel& chart) {
 
 }  // namespace
 
+namespace {
+
+/// Returns true if the chart draws #N/A as a blank cell, which an extension of Excel 365 says.
+bool IsUnavailableBlank(pugi::xml_node chart) {
+  const auto extensions = xml::Children(xml::Child(chart, "extLst"), "ext");
+  return std::any_of(extensions.begin(), extensions.end(), [](const pugi::xml_node& extension) {
+    const auto options = xml::Child(extension, "dataDisplayOptions16");
+    return schema::BooleanVal(options, "dispNaAsBlank", false);
+  });
+}
+
+}  // namespace
+
 FormatPointer ReadingContext::Format(const std::string& code) {
   FormatPointer& format = formats[code];
   if (!format) format = xlsx::NumberFormat::Parse(code);
@@ -134,6 +147,7 @@ ChartModel ReadChart(xlsx::ChartPart& part, Notes& notes) {
   chart.roundedCorners = schema::BooleanVal(space, "roundedCorners", false);
   // Excel always writes the element. If another program left it out, Excel draws gaps.
   chart.blanks = schema::Val(node, "dispBlanksAs", "gap");
+  context.isUnavailableBlank = IsUnavailableBlank(node);
   chart.layout = ReadLayout(plotArea);
   chart.axes = ReadAxes(context, plotArea);
   ReadGroups(context, chart);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,8 @@ struct ReadingContext {
   std::map<std::string, FormatPointer> formats = {};
   /// The number of points that may still be read.
   std::size_t pointsLeft = kMostPointsOfAll;
+  /// Whether points with the value #N/A are drawn as points of blank cells.
+  bool isUnavailableBlank = false;
 
   /// Makes a context. `chart` and `sentences` must outlive it.
   ReadingContext(xlsx::ChartPart& chart, Notes& sentences) : part(chart), notes(sentences), styles(chart) {}
@@ -71,7 +74,9 @@ void AddBandEntries(ReadingContext& context, ChartModel& chart);
 void ReadDates(ReadingContext& context, const GroupModel& group, AxisModel& axis);
 
 /// Reads the numbers of a series (c:val, c:xVal and the like), one for each point. A missing number is NaN.
-std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data);
+/// If `unavailable` isn't null, it receives the indices, from 0, of the points with #N/A.
+std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data,
+                                std::set<std::size_t>* unavailable = nullptr);
 /// Reads the outer levels of the categories. `categories` is the number of categories. The result is empty if
 /// there is only one level.
 std::vector<CategoryLevel> ReadOuterLevels(pugi::xml_node data, std::size_t categories);

@@ -2,6 +2,8 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <set>
+#include <string_view>
 #include <utility>
 
 #include "render/model/ChartReader.h"
@@ -21,6 +23,7 @@ using excel::CellValue;
 
 namespace {
 
+constexpr std::string_view kUnavailable = "#N/A";
 constexpr double kNothing = std::numeric_limits<double>::quiet_NaN();
 
 /// Returns how many points of a cache may be read if it claims to have `claimed` points. Adds a note if this
@@ -64,7 +67,8 @@ std::optional<Cells> CellsOf(ReadingContext& context, pugi::xml_node reference) 
   return Cells{std::move(sheet), range->range};
 }
 
-std::vector<double> NumbersOfCells(ReadingContext& context, const Cells& cells) {
+std::vector<double> NumbersOfCells(ReadingContext& context, const Cells& cells,
+                                   std::set<std::size_t>* unavailable) {
   std::vector<double> numbers(Admitted(context, cells.range.CellCount()), kNothing);
   cells.ForEach(numbers.size(), [&](std::size_t index, std::int32_t row, std::int32_t column) {
     const CellValue value = cells.sheet->Stored(row, column);
@@ -73,6 +77,9 @@ std::vector<double> NumbersOfCells(ReadingContext& context, const Cells& cells) 
       numbers[index] = value.number;
     } else if (value.kind == CellValue::Kind::kText) {
       numbers[index] = 0;  // Excel draws a text among numbers as 0.
+    } else if (unavailable != nullptr && value.kind == CellValue::Kind::kError &&
+               value.text == kUnavailable) {
+      unavailable->insert(index);
     }
   });
   return numbers;
@@ -114,21 +121,24 @@ std::vector<std::string> CategoriesOfCells(ReadingContext& context, pugi::xml_no
 
 }  // namespace
 
-std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data) {
+std::vector<double> ReadNumbers(ReadingContext& context, pugi::xml_node data,
+                                std::set<std::size_t>* unavailable) {
   const auto literal = xml::Child(data, "numLit");
   const auto reference = xml::Child(data, "numRef");
   const auto cache = literal ? literal : xml::Child(reference, "numCache");
   if (!cache) {
     const auto cells = CellsOf(context, reference);
-    return cells ? NumbersOfCells(context, *cells) : std::vector<double>();
+    return cells ? NumbersOfCells(context, *cells, unavailable) : std::vector<double>();
   }
   std::vector<double> numbers(Admitted(context, schema::IntegerVal(cache, "ptCount", 0)), kNothing);
   for (const pugi::xml_node& point : cache.children()) {
     if (!xml::Is(point, "pt")) continue;
     const auto index = static_cast<unsigned long long>(xml::IntegerAttribute(point, "idx", -1));
     if (index >= numbers.size()) continue;
-    const auto number = xml::ParseDouble(xlsx::CachedText(point));
+    const std::string text = xlsx::CachedText(point);
+    const auto number = xml::ParseDouble(text);
     if (number && std::isfinite(*number)) numbers[index] = *number;
+    if (!number && unavailable != nullptr && text == kUnavailable) unavailable->insert(index);
   }
   return numbers;
 }

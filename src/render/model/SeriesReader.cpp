@@ -237,7 +237,7 @@ void ReadSplit(pugi::xml_node group, SeriesModel& series) {
 /// Reads the numbers of a series and their formats.
 void ReadData(ReadingContext& context, const GroupModel& group, SeriesModel& series) {
   const auto values = xlsx::FindValues(series.node);
-  series.values = ReadNumbers(context, values);
+  series.values = ReadNumbers(context, values, context.isUnavailableBlank ? nullptr : &series.bridged);
   series.valueFormat = ReadFormat(context, values);
   if (group.family == Family::kOfPie) ReadSplit(group.node, series);
   if (group.HasXValues()) series.x = ReadNumbers(context, xml::Child(series.node, "xVal"));
