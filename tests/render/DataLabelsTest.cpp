@@ -37,6 +37,43 @@ TEST_F(DataLabelsTest, ShowWhatTheirSettingsSelect) {
   }
 }
 
+TEST_F(DataLabelsTest, OfPointsOutsideOfTheirAxisAreLeftOut) {
+  const S shown = "<c:dLbls><c:showVal val=\"1\"/></c:dLbls>";
+  // A value below the scale, on it, above it, and at its ends.
+  const Numbers values = {5, 15, 30, 20, 10}, both = {-5, 0, 20, -30, 3};
+  const auto grouped = [](const char* element, const char* grouping, const S& series) {
+    return GroupXml(element, "<c:grouping val=\"" + S(grouping) + "\"/>", series);
+  };
+  const S one = SeriesXml(0, values, shown), around = SeriesXml(0, both, shown);
+  const S stack = SeriesXml(0, {15, 25, 4}, shown) + SeriesXml(1, {3, 3, 17}, shown);
+  const struct {
+    const char* what;
+    S chart;
+    Texts labels;
+  } cases[] = {
+      {"columns", ColumnsXml(one) + AxesXml("", ScalingXml("10", "20")), {"15", "30", "20", "10"}},
+      {"bars",
+       ColumnsXml(one, "", "clustered", "bar") + AxesXml("", ScalingXml("10", "20"), true),
+       {"15", "30", "20", "10"}},
+      {"areas",
+       grouped("areaChart", "standard", one) + AxesXml("", ScalingXml("10", "20")),
+       {"15", "30", "20", "10"}},
+      {"lines", LinesXml(one) + AxesXml("", ScalingXml("10", "20")), {"15", "20", "10"}},
+      {"columns on both sides",
+       ColumnsXml(around) + AxesXml("", ScalingXml("-10", "10")),
+       {"-5", "0", "20", "-30", "3"}},
+      {"stacked columns",
+       ColumnsXml(stack, "", "stacked") + AxesXml("", ScalingXml("0", "20")),
+       {"15", "25", "4", "3", "17"}},
+      {"stacked areas",
+       grouped("areaChart", "stacked", stack) + AxesXml("", ScalingXml("0", "20")),
+       {"15", "25", "4", "3", "17"}},
+  };
+  for (const auto& test : cases) {
+    EXPECT_EQ(TextsOf(Draw(PlotXml(test.chart)), Role::kDataLabel), test.labels) << test.what;
+  }
+}
+
 TEST_F(DataLabelsTest, OfCrowdedPiesAreMovedApartAndTiedToTheirSlices) {
   const auto values = [](std::size_t large, std::size_t small) {
     Numbers list(large, 100);

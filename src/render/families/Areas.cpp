@@ -70,7 +70,8 @@ class AreaPainter {
       if (!present || !categoryAxis_.Shows(i)) continue;
       bars_.Add(series, i, x, to);
       const double top = std::min(upper, lower), bottom = std::max(upper, lower);
-      plot_.Keep({&group_, &series, i, {x, top, 0, bottom - top}, to < from});
+      const Rect box{x, top, 0, bottom - top};
+      if (plot_.Shows(box)) plot_.Keep({&group_, &series, i, box, to < from});
       if (group_.dropLines) {
         dropLines_.push_back({{Role::kDropLine, series.number, static_cast<int>(i + 1)}, x, top, bottom});
       }

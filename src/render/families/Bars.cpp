@@ -130,7 +130,8 @@ void DrawBars(Plot& plot, const GroupModel& group) {
         AddShape(plot.canvas, {Role::kBar, series.number, static_cast<int>(i + 1)}, std::move(path), style);
       }
       bars.Add(series, i, places.IsHorizontal() ? box.Center().y : box.Center().x, to);
-      plot.Keep({&group, &series, i, box, to < (group.IsStacked() ? from : crossing)});
+      const bool isNegative = to < (group.IsStacked() ? from : crossing);
+      if (plot.Shows(box)) plot.Keep({&group, &series, i, box, isNegative});
     }
   }
   merged.Draw(plot.canvas);

@@ -111,14 +111,9 @@ class MarkerPlaces {
 
 void DrawMarkersOf(Plot& plot, const GroupModel& group, const SeriesModel& series,
                    const std::vector<LinePoint>& points) {
-  constexpr double kSlack = 0.5;  // points; a marker on the edge of the plot area is drawn
   MarkerPlaces places(points.size());
   for (const LinePoint& point : points) {
-    const bool inside = point.present && point.place.x >= plot.area.left - kSlack &&
-                        point.place.x <= plot.area.Right() + kSlack &&
-                        point.place.y >= plot.area.top - kSlack &&
-                        point.place.y <= plot.area.Bottom() + kSlack;
-    if (!inside) continue;
+    if (!point.present || !plot.Shows({point.place.x, point.place.y, 0, 0})) continue;
     const MarkerModel& marker = series.MarkerOf(point.index);
     const double size = marker.symbol == "none" ? 0 : marker.size;
     if (size > 0 && places.Take(point.place, size) && plot.TakeSymbol()) {

@@ -1,5 +1,6 @@
 #include "render/plot/Plot.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -21,6 +22,16 @@ bool Plot::TakeSymbol() {
   }
   --symbolsLeft;
   return true;
+}
+
+bool Plot::Shows(const Rect& box) const {
+  constexpr double kSlack = 0.5;  // points; a point that is this far outside is on the edge
+  const auto isInside = [](double from, double to, double begin, double end) {
+    const double visible = std::min(to, end) - std::max(from, begin);
+    return visible > 0 || (to - from < kSlack && visible >= -kSlack);
+  };
+  return isInside(box.left, box.Right(), area.left, area.Right()) &&
+         isInside(box.top, box.Bottom(), area.top, area.Bottom());
 }
 
 void Plot::Keep(const DrawnPoint& point) {

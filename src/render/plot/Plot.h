@@ -45,6 +45,9 @@ struct Plot {
 
   /// Counts one more marker or bubble. Returns false, and adds a note, if no more may be drawn.
   bool TakeSymbol();
+  /// Returns true if a part of the rectangle of a point is inside the plot area. A rectangle without extent
+  /// may also be on its edge.
+  bool Shows(const Rect& box) const;
   /// Adds a drawn point to `points` if it has a label.
   void Keep(const DrawnPoint& point);
   /// Returns the category axis or the axis of X values of a group, or null if it has none.
