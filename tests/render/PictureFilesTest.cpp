@@ -248,6 +248,22 @@ TEST_F(PictureFilesTest, PlainTextsAreAsWideAsPangoMakesThem) {
   EXPECT_EQ(withOthers, std::set<S>{"Cambria"});  // Its substitute Caladea doesn't have all of the letters.
 }
 
+TEST_F(PictureFilesTest, LinesThatBeginWithAHebrewLetterRunFromLeftToRight) {
+  const render::Font font{"Calibri", 12};
+  const auto pictureOf = [&](const std::vector<std::pair<S, double>>& texts) {
+    Drawing drawing;
+    drawing.width = drawing.height = 36;
+    for (const auto& [text, left] : texts) {
+      drawing.items.push_back({{}, TextItem{text, font, {}, {left, 20}}});
+    }
+    return MakePng(drawing, SharedFonts());
+  };
+  const S letter = "\u05d0";
+  const double width = SharedFonts().Measure(letter, font).width;
+  EXPECT_TRUE(pictureOf({{letter + "b", 6}}) == pictureOf({{letter, 6}, {"b", 6 + width}}));
+  EXPECT_FALSE(pictureOf({{letter + "b", 6}}) == pictureOf({{"b", 6}, {letter, 6 + width}}));
+}
+
 TEST_F(PictureFilesTest, OtherTextsAreLeftToPango) {
   struct Counting : render::TextMeasure {
     render::TextExtent Measure(std::string_view line, const render::Font&) const override {
