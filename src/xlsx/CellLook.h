@@ -23,13 +23,16 @@ struct BorderLine {
   bool operator==(const BorderLine&) const = default;
 };
 
+/// The width of a step of the indent, in spaces.
+inline constexpr int kBlanksPerIndent = 3;
+
 /// The format of a cell, except its number format.
 struct CellLook {
   /// The horizontal alignment.
   HorizontalAlignment horizontal = HorizontalAlignment::kGeneral;
   /// The vertical alignment.
   VerticalAlignment vertical = VerticalAlignment::kBottom;
-  int indent = 0;     ///< The indent in steps of three spaces.
+  int indent = 0;     ///< The indent in steps of kBlanksPerIndent.
   bool wrap = false;  ///< Whether a long text continues on the next line of the cell.
   /// The font style: whether the text is bold, italic, underlined or struck through.
   bool bold = false, italic = false, underline = false, strike = false;

@@ -123,26 +123,6 @@ TEST(CellLinesTest, TextsWrapAtBlanksAndInsideOfLongWords) {
   for (const auto& c : cases) EXPECT_EQ(WrappedLines(c.text, c.width, CountedWidth), c.lines) << c.text;
 }
 
-TEST(CellLinesTest, NumbersThatDontFitLoseDecimalsOrAreMarks) {
-  const struct {
-    double number;
-    const char* text;
-    bool general;
-    double width;
-    const char* fitted;
-  } cases[] = {
-      {1.5, "1.5", true, 3, "1.5"},
-      {2.0 / 3, "0.666666667", true, 5, "0.667"},
-      {1234.56, "1234.56", true, 4, "1235"},
-      {1234.56, "1234.56", true, 3, "###"},
-      {1234.56, "1,234.56", false, 5, "#####"},
-      {1e20, "1E+20", true, 4, "####"},
-      {7, "7", true, 0.5, "#"},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(FittedNumber(c.number, c.text, c.general, c.width, CountedWidth), c.fitted) << c.text;
-}
-
 /// Tests the pages of a sheet in a workbook with these styles: bold (1), a red fill and a line below (2),
 /// wrapped (3), centred (4), a number format (5), at the top (6), in the middle (7), right (8), indented on
 /// the left (9) and on the right (10), struck (11), wrapped in the middle (12), centred across (13), filled

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "xlsx/CellLook.h"
+#include "xlsx/CellContents.h"
 #include "xlsx/drawing/Theme.h"
 #include "xlsx/sheet/Styles.h"
 
@@ -8,6 +8,7 @@ namespace plotsmith::xlsx {
 namespace {
 
 using S = std::string;
+using Kind = excel::CellValue::Kind;
 
 /// Excel's colour from red, green and blue.
 constexpr std::int32_t Rgb(std::int32_t rgb) { return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16; }
@@ -79,6 +80,65 @@ TEST(CellLookTest, FontFillAndAlignmentComeFromTheStyle) {
     EXPECT_EQ(look, c.look) << c.font << c.fill << c.style << "\ntext " << look.textColor.value_or(-1)
                             << " fill " << look.fillColor.value_or(-1);
     EXPECT_EQ(LookOf(styles, theme, 7).font, "X");  // This style doesn't exist.
+  }
+}
+
+TEST(CellContentsTest, NumbersThatDontFitLoseDecimalsOrAreMarks) {
+  const struct {
+    double number;
+    const char* text;
+    bool general;
+    double width;
+    const char* fitted;
+  } cases[] = {
+      {1.5, "1.5", true, 3, "1.5"},
+      {2.0 / 3, "0.666666667", true, 5, "0.667"},
+      {-0.123456, "-0.123456", true, 6, "-0.123"},
+      {1234.56, "1234.56", true, 4, "1235"},
+      {1234.56, "1234.56", true, 3, "###"},
+      {1234.56, "1,234.56", false, 5, "#####"},
+      {1e20, "1E+20", true, 4, "####"},
+      {1.5e20, "1.5E+20", true, 4, "####"},
+      {7, "7", true, 0.5, "#"},
+  };
+  const auto countedWidth = [](std::string_view text) { return static_cast<double>(text.size()); };
+  for (const auto& c : cases) {
+    const CellContents cell{
+        .kind = Kind::kNumber, .number = c.number, .general = c.general, .style = 0, .text = c.text};
+    EXPECT_EQ(FittedNumber(cell, c.width, countedWidth), c.fitted) << c.text;
+  }
+}
+
+TEST(CellContentsTest, TheKindAndTheLookDecideWhereATextIs) {
+  using Horizontal = HorizontalAlignment;
+  const struct {
+    Kind kind;
+    Horizontal horizontal;
+    bool wrap;
+    TextSide side;
+    bool spreads;
+  } cases[] = {
+      {Kind::kText, Horizontal::kGeneral, false, TextSide::kLeft, true},
+      {Kind::kText, Horizontal::kGeneral, true, TextSide::kLeft, false},
+      {Kind::kText, Horizontal::kRight, false, TextSide::kRight, true},
+      {Kind::kText, Horizontal::kCenter, false, TextSide::kMiddle, true},
+      {Kind::kText, Horizontal::kCenterAcross, false, TextSide::kMiddle, true},
+      {Kind::kText, Horizontal::kFill, false, TextSide::kLeft, false},
+      {Kind::kNumber, Horizontal::kGeneral, false, TextSide::kRight, false},
+      {Kind::kNumber, Horizontal::kLeft, false, TextSide::kLeft, false},
+      {Kind::kDate, Horizontal::kGeneral, false, TextSide::kRight, false},
+      {Kind::kBoolean, Horizontal::kGeneral, false, TextSide::kMiddle, false},
+      {Kind::kError, Horizontal::kGeneral, false, TextSide::kMiddle, false},
+  };
+  for (const auto& c : cases) {
+    const auto row = &c - cases;
+    CellContents cell;
+    cell.kind = c.kind;
+    CellLook look;
+    look.horizontal = c.horizontal;
+    look.wrap = c.wrap;
+    EXPECT_EQ(SideOf(cell, look), c.side) << row;
+    EXPECT_EQ(MaySpread(cell, look), c.spreads) << row;
   }
 }
 

@@ -10,26 +10,15 @@
 namespace plotsmith::qtbook {
 namespace {
 
-using Kind = excel::CellValue::Kind;
-using xlsx::HorizontalAlignment;
+using xlsx::CellContents;
+using xlsx::TextSide;
 using xlsx::VerticalAlignment;
 
 constexpr double kPixelsPerPoint = 96.0 / 72;
-constexpr int kBlanksPerIndent = 3;
 
-bool IsNumber(const ShownCell& cell) { return cell.kind == Kind::kNumber || cell.kind == Kind::kDate; }
-
-Qt::Alignment UsualSide(Kind kind) {
-  switch (kind) {
-    case Kind::kNumber:
-    case Kind::kDate:
-      return Qt::AlignRight;
-    case Kind::kBoolean:
-    case Kind::kError:
-      return Qt::AlignHCenter;
-    default:
-      return Qt::AlignLeft;
-  }
+Qt::Alignment FlagOf(TextSide side) {
+  if (side == TextSide::kLeft) return Qt::AlignLeft;
+  return side == TextSide::kRight ? Qt::AlignRight : Qt::AlignHCenter;
 }
 
 Qt::Alignment HeightOf(VerticalAlignment vertical) {
@@ -38,17 +27,6 @@ Qt::Alignment HeightOf(VerticalAlignment vertical) {
 }
 
 }  // namespace
-
-QString ShorterNumber(double number, const QString& text, const std::function<bool(const QString&)>& fits) {
-  if (text.contains(QLatin1Char('E'))) return {};  // A number with an exponent can hardly become shorter.
-  const auto point = text.indexOf(QLatin1Char('.'));
-  const int decimals = point < 0 ? 0 : static_cast<int>(text.size() - point - 1);
-  for (int kept = decimals - 1; kept >= 0; --kept) {
-    const QString shorter = QString::number(number, 'f', kept);
-    if (fits(shorter)) return shorter;
-  }
-  return {};
-}
 
 CellPainter::CellPainter(SheetSource& source, const QPalette& palette, double scale)
     : source_(source), palette_(palette), scale_(scale), shrink_(1) {
@@ -76,70 +54,54 @@ const CellPainter::Face& CellPainter::FaceOf(std::uint32_t style) {
   return faces_.emplace(style, Face{font, QFontMetrics(font)}).first->second;
 }
 
-QColor CellPainter::Background(const ShownCell& cell) {
+QColor CellPainter::Background(const CellContents& cell) {
   const auto& fill = source_.LookOf(cell.style).fillColor;
   // Workbooks assume a white background, so white becomes the window's background colour.
   constexpr std::int32_t kWhite = 0xFFFFFF;
   return fill && *fill != kWhite ? FromExcel(*fill) : palette_.color(QPalette::Base);
 }
 
-Qt::Alignment CellPainter::SideOf(const ShownCell& cell) {
-  switch (source_.LookOf(cell.style).horizontal) {
-    case HorizontalAlignment::kLeft:
-    case HorizontalAlignment::kFill:
-      return Qt::AlignLeft;
-    case HorizontalAlignment::kRight:
-      return Qt::AlignRight;
-    case HorizontalAlignment::kCenter:
-    case HorizontalAlignment::kCenterAcross:
-      return Qt::AlignHCenter;
-    case HorizontalAlignment::kGeneral:
-      break;
-  }
-  return UsualSide(cell.kind);
+TextSide CellPainter::SideOf(const CellContents& cell) {
+  return xlsx::SideOf(cell, source_.LookOf(cell.style));
 }
 
-bool CellPainter::MaySpread(const ShownCell& cell) {
-  const xlsx::CellLook& look = source_.LookOf(cell.style);
-  return cell.kind == Kind::kText && !look.wrap && look.horizontal != HorizontalAlignment::kFill;
+bool CellPainter::MaySpread(const CellContents& cell) {
+  return xlsx::MaySpread(cell, source_.LookOf(cell.style));
 }
 
 int CellPainter::Padding() const { return std::max(1, static_cast<int>(std::lround(2 * scale_))); }
 
-int CellPainter::IndentOf(const ShownCell& cell) {
+int CellPainter::IndentOf(const CellContents& cell) {
   const int blank = FaceOf(cell.style).metrics.horizontalAdvance(QLatin1Char(' '));
-  return source_.LookOf(cell.style).indent * kBlanksPerIndent * blank;
+  return source_.LookOf(cell.style).indent * xlsx::kBlanksPerIndent * blank;
 }
 
-int CellPainter::WidthOf(const ShownCell& cell) {
-  return FaceOf(cell.style).metrics.horizontalAdvance(cell.text) + IndentOf(cell) + 2 * Padding() + 1;
+int CellPainter::WidthOf(const CellContents& cell) {
+  return FaceOf(cell.style).metrics.horizontalAdvance(ToQString(cell.text)) + IndentOf(cell) + 2 * Padding() +
+         1;
 }
 
-QString CellPainter::FittedText(const ShownCell& cell, int width) {
-  if (!IsNumber(cell)) return cell.text;
+QString CellPainter::FittedText(const CellContents& cell, int width) {
+  if (!cell.IsNumber()) return ToQString(cell.text);
   const QFontMetrics& metrics = FaceOf(cell.style).metrics;
   const int room = width - IndentOf(cell) - Padding() - 1;
-  const auto fits = [&](const QString& text) { return metrics.horizontalAdvance(text) <= room; };
-  if (fits(cell.text)) return cell.text;
-  const QString shorter = cell.general ? ShorterNumber(cell.number, cell.text, fits) : QString();
-  if (!shorter.isEmpty()) return shorter;
-  const int marks = room / std::max(1, metrics.horizontalAdvance(QLatin1Char('#')));
-  return QString(std::max(marks, 1), QLatin1Char('#'));
+  const auto widthOf = [&](std::string_view text) { return metrics.horizontalAdvance(ToQString(text)); };
+  return ToQString(xlsx::FittedNumber(cell, room, widthOf));
 }
 
-void CellPainter::Paint(QPainter& painter, const ShownCell& cell, const QRect& area) {
-  if (cell.text.isEmpty()) return;
+void CellPainter::Paint(QPainter& painter, const CellContents& cell, const QRect& area) {
+  if (cell.text.empty()) return;
   const xlsx::CellLook& look = source_.LookOf(cell.style);
   const Face& face = FaceOf(cell.style);
-  const Qt::Alignment side = SideOf(cell);
+  const TextSide side = SideOf(cell);
   // The last pixel at the right and bottom is the gridline.
   QRect inside = area.adjusted(Padding(), 0, -Padding() - 1, -1);
-  if (side == Qt::AlignLeft) inside.setLeft(inside.left() + IndentOf(cell));
-  if (side == Qt::AlignRight) inside.setRight(inside.right() - IndentOf(cell));
+  if (side == TextSide::kLeft) inside.setLeft(inside.left() + IndentOf(cell));
+  if (side == TextSide::kRight) inside.setRight(inside.right() - IndentOf(cell));
 
   QString text = FittedText(cell, area.width());
-  int flags = static_cast<int>(side | HeightOf(look.vertical)) | Qt::TextDontClip;
-  if (look.wrap && !IsNumber(cell)) {
+  int flags = static_cast<int>(FlagOf(side) | HeightOf(look.vertical)) | Qt::TextDontClip;
+  if (look.wrap && !cell.IsNumber()) {
     flags |= Qt::TextWordWrap;
   } else {
     // Line breaks are shown only in cells with wrapped text.

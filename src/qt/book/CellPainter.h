@@ -21,21 +21,21 @@ class CellPainter {
   /// Returns the Normal font of the workbook.
   QFont NormalFont() const;
   /// Returns the background colour of a cell: the colour of its fill, or the colour of the window.
-  QColor Background(const ShownCell& cell);
+  QColor Background(const xlsx::CellContents& cell);
   /// Returns true if the cell has a fill.
-  bool HasFill(const ShownCell& cell) { return source_.LookOf(cell.style).fillColor.has_value(); }
+  bool HasFill(const xlsx::CellContents& cell) { return source_.LookOf(cell.style).fillColor.has_value(); }
 
-  /// Returns the horizontal alignment of a cell's text: Qt::AlignLeft, AlignRight or AlignHCenter.
-  Qt::Alignment SideOf(const ShownCell& cell);
+  /// Returns the horizontal position of a cell's text.
+  xlsx::TextSide SideOf(const xlsx::CellContents& cell);
   /// Returns true if a long text may extend over empty adjacent cells.
-  bool MaySpread(const ShownCell& cell);
+  bool MaySpread(const xlsx::CellContents& cell);
   /// Returns the width of the text with its margins, in pixels.
-  int WidthOf(const ShownCell& cell);
+  int WidthOf(const xlsx::CellContents& cell);
   /// Returns the text that fits into a cell of this width. A number that doesn't fit is shortened to fewer
   /// decimals, or replaced by "####".
-  QString FittedText(const ShownCell& cell, int width);
+  QString FittedText(const xlsx::CellContents& cell, int width);
   /// Paints the text of a cell. `area` is the cell, including empty adjacent cells under a long text.
-  void Paint(QPainter& painter, const ShownCell& cell, const QRect& area);
+  void Paint(QPainter& painter, const xlsx::CellContents& cell, const QRect& area);
 
  private:
   struct Face {
@@ -45,7 +45,7 @@ class CellPainter {
   const Face& FaceOf(std::uint32_t style);
   QFont FontOf(const xlsx::CellLook& look) const;
   int Padding() const;
-  int IndentOf(const ShownCell& cell);
+  int IndentOf(const xlsx::CellContents& cell);
 
   SheetSource& source_;
   QPalette palette_;
@@ -53,9 +53,5 @@ class CellPainter {
   double shrink_;  ///< The factor of font sizes.
   std::map<std::uint32_t, Face> faces_;
 };
-
-/// Returns a number in the General format with as many digits as `fits` accepts. `text` has all digits. The
-/// result is empty if not even the integer part fits.
-QString ShorterNumber(double number, const QString& text, const std::function<bool(const QString&)>& fits);
 
 }  // namespace plotsmith::qtbook

@@ -16,8 +16,6 @@
 namespace plotsmith::qtbook {
 namespace {
 
-using Kind = excel::CellValue::Kind;
-
 ShownFrame FrameOf(const std::shared_ptr<xlsx::SheetShape>& shape) {
   const xlsx::Frame place = shape->PlacedFrame();
   ShownFrame frame;
@@ -46,7 +44,7 @@ std::size_t FindChart(const std::vector<ShownFrame>& frames, const std::string& 
 }
 
 SheetSource::SheetSource(xlsx::Workbook& book, std::weak_ptr<xlsx::SheetEntry> sheet)
-    : book_(book), sheet_(std::move(sheet)) {}
+    : book_(book), sheet_(std::move(sheet)), looks_(book) {}
 
 template <class Question>
 auto SheetSource::Ask(Question&& question) {
@@ -57,28 +55,14 @@ auto SheetSource::Ask(Question&& question) {
 
 bool SheetSource::IsEmptyAt(std::int32_t row, std::int32_t column) {
   ++cellsRead_;
-  return Ask([&](xlsx::Worksheet& sheet) { return sheet.Stored(row, column).kind == Kind::kEmpty; });
-}
-
-ShownCell SheetSource::CellAt(std::int32_t row, std::int32_t column) {
-  ++cellsRead_;
   return Ask([&](xlsx::Worksheet& sheet) {
-    const excel::CellValue value = sheet.Stored(row, column);
-    ShownCell cell;
-    cell.kind = value.kind;
-    cell.number = value.number;
-    cell.style = sheet.StyleAt(row, column);
-    cell.general = value.kind == Kind::kNumber && book_.Styles().IsGeneral(cell.style);
-    std::string scratch;
-    if (!cell.IsEmpty()) cell.text = ToQString(sheet.CellTextAt(row, column, scratch));
-    return cell;
+    return sheet.Stored(row, column).kind == excel::CellValue::Kind::kEmpty;
   });
 }
 
-const xlsx::CellLook& SheetSource::LookOf(std::uint32_t style) {
-  const auto found = looks_.find(style);
-  if (found != looks_.end()) return found->second;
-  return looks_.emplace(style, xlsx::LookOf(book_.Styles(), book_.Theme(), style)).first->second;
+xlsx::CellContents SheetSource::CellAt(std::int32_t row, std::int32_t column) {
+  ++cellsRead_;
+  return Ask([&](xlsx::Worksheet& sheet) { return xlsx::ContentsAt(sheet, row, column); });
 }
 
 const xlsx::SheetGeometry& SheetSource::Geometry() {

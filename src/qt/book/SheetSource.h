@@ -4,14 +4,12 @@
 #include <QtCore/QString>
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "host/excel/CellValue.h"
 #include "host/excel/Chart.h"
-#include "xlsx/CellLook.h"
+#include "xlsx/CellContents.h"
 #include "xlsx/sheet/Reference.h"
 #include "xlsx/sheet/SheetGeometry.h"
 #include "xlsx/sheet/SheetView.h"
@@ -23,18 +21,6 @@ struct SheetEntry;
 }  // namespace plotsmith::xlsx
 
 namespace plotsmith::qtbook {
-
-/// A cell as the window shows it.
-struct ShownCell {
-  excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;  ///< The kind of the value.
-  double number = 0;                                             ///< The value of a number.
-  bool general = false;     ///< Whether it is a number in the General format.
-  std::uint32_t style = 0;  ///< The style for SheetSource::LookOf.
-  QString text;             ///< The displayed text, as in Range.Text.
-
-  /// Returns true if the cell has no value.
-  bool IsEmpty() const { return kind == excel::CellValue::Kind::kEmpty; }
-};
 
 /// A shape on a sheet.
 struct ShownFrame {
@@ -60,9 +46,9 @@ class SheetSource {
   /// Returns true if the cell is empty. Rows and columns count from 1.
   bool IsEmptyAt(std::int32_t row, std::int32_t column);
   /// Returns a cell. Rows and columns count from 1.
-  ShownCell CellAt(std::int32_t row, std::int32_t column);
+  xlsx::CellContents CellAt(std::int32_t row, std::int32_t column);
   /// Returns the look of a cell style.
-  const xlsx::CellLook& LookOf(std::uint32_t style);
+  const xlsx::CellLook& LookOf(std::uint32_t style) { return looks_.Of(style); }
   /// Returns the row heights and column widths. The reference is valid until the next change in the host.
   const xlsx::SheetGeometry& Geometry();
   /// Returns the width of a digit in the Normal font, the unit of column widths, in pixels at 96 dots per
@@ -78,7 +64,7 @@ class SheetSource {
   std::vector<ShownFrame> Frames();
 
   /// Clears the cache of cell styles, for example after a change of the palette.
-  void DiscardLooks() { looks_.clear(); }
+  void DiscardLooks() { looks_.Clear(); }
   /// The number of cells that were read from the host. It measures the cost of scrolling.
   std::uint64_t CellsRead() const { return cellsRead_; }
 
@@ -89,7 +75,7 @@ class SheetSource {
 
   xlsx::Workbook& book_;
   std::weak_ptr<xlsx::SheetEntry> sheet_;
-  std::map<std::uint32_t, xlsx::CellLook> looks_;  ///< The looks of styles that were visible.
+  xlsx::CellLooks looks_;  ///< The looks of styles that were visible.
   std::uint64_t cellsRead_ = 0;
 };
 

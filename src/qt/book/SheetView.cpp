@@ -214,7 +214,7 @@ void SheetView::SetActiveCell(const CellPlace& cell) {
 
 QString SheetView::ActiveText() {
   QString text;
-  Guarded([&] { text = source_.CellAt(activeCell_.row, activeCell_.column).text; });
+  Guarded([&] { text = ToQString(source_.CellAt(activeCell_.row, activeCell_.column).text); });
   return text;
 }
 

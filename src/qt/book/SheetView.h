@@ -86,10 +86,10 @@ class SheetView : public QAbstractScrollArea, public SheetPage {
   /// The visible cells of a pane and their contents.
   struct PaneCells {
     std::vector<Line> rows, columns;
-    std::vector<ShownCell> cells;  ///< The cells, row by row.
+    std::vector<xlsx::CellContents> cells;  ///< The cells, row by row.
     std::vector<xlsx::CellRange> merged;
 
-    const ShownCell& At(std::size_t row, std::size_t column) const {
+    const xlsx::CellContents& At(std::size_t row, std::size_t column) const {
       return cells[row * columns.size() + column];
     }
     bool IsMerged(std::int32_t row, std::int32_t column) const;

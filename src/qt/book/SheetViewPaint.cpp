@@ -12,6 +12,7 @@ namespace plotsmith::qtbook {
 
 using xlsx::CellPlace;
 using xlsx::CellRange;
+using xlsx::TextSide;
 namespace limits = xlsx::limits;
 
 namespace {
@@ -111,7 +112,7 @@ void SheetView::PaintFills(QPainter& painter, const Pane& pane, const PaneCells&
                            CellPainter& cellPainter) {
   for (std::size_t row = 0; row < shown.rows.size(); ++row) {
     for (std::size_t column = 0; column < shown.columns.size(); ++column) {
-      const ShownCell& cell = shown.At(row, column);
+      const xlsx::CellContents& cell = shown.At(row, column);
       if (!cellPainter.HasFill(cell)) continue;
       const QRect area = AreaOf(shown.rows[row], shown.columns[column]).translated(pane.origin);
       painter.fillRect(area.adjusted(-1, -1, 0, 0), cellPainter.Background(cell));
@@ -132,15 +133,15 @@ void SheetView::PaintTexts(QPainter& painter, const Pane& pane, const PaneCells&
 /// Paints the text of a cell. A long text extends over empty adjacent cells.
 void SheetView::PaintText(QPainter& painter, const Pane& pane, const PaneCells& shown, std::size_t row,
                           std::size_t column, CellPainter& cellPainter) {
-  const ShownCell& cell = shown.At(row, column);
+  const xlsx::CellContents& cell = shown.At(row, column);
   if (cell.IsEmpty() || shown.IsMerged(shown.rows[row].number, shown.columns[column].number)) return;
   QRect area = AreaOf(shown.rows[row], shown.columns[column]).translated(pane.origin);
   if (!cellPainter.MaySpread(cell)) return cellPainter.Paint(painter, cell, area);
 
   const int missing = cellPainter.WidthOf(cell) - area.width();
-  const Qt::Alignment side = cellPainter.SideOf(cell);
-  const int half = side == Qt::AlignHCenter ? (missing + 1) / 2 : missing;
-  int toRight = side == Qt::AlignRight ? 0 : half, toLeft = side == Qt::AlignLeft ? 0 : half;
+  const TextSide side = cellPainter.SideOf(cell);
+  const int half = side == TextSide::kMiddle ? (missing + 1) / 2 : missing;
+  int toRight = side == TextSide::kRight ? 0 : half, toLeft = side == TextSide::kLeft ? 0 : half;
   const auto cover = [&](std::size_t other, int line) {
     // Remove the gridline between both cells, unless the other cell's fill has covered it.
     if (view_.gridLines)
@@ -159,7 +160,7 @@ void SheetView::PaintText(QPainter& painter, const Pane& pane, const PaneCells& 
     area.setLeft(area.left() - shown.columns[other].size);
   }
   // Centre the text in its own cell, not in all cells that it covers.
-  if (side == Qt::AlignHCenter && missing > 0) {
+  if (side == TextSide::kMiddle && missing > 0) {
     const QRect own = AreaOf(shown.rows[row], shown.columns[column]).translated(pane.origin);
     painter.save();
     painter.setClipRect(area, Qt::IntersectClip);
@@ -180,8 +181,8 @@ void SheetView::PaintTextFromOutside(QPainter& painter, const Pane& pane, const 
   std::int32_t column = std::min(first - 1, used_.column2);
   while (column >= from && source_.IsEmptyAt(number, column)) --column;
   if (column < from) return;
-  const ShownCell cell = source_.CellAt(number, column);
-  if (!cellPainter.MaySpread(cell) || cellPainter.SideOf(cell) != Qt::AlignLeft ||
+  const xlsx::CellContents cell = source_.CellAt(number, column);
+  if (!cellPainter.MaySpread(cell) || cellPainter.SideOf(cell) != TextSide::kLeft ||
       FirstOfMerged({number, column}) != CellPlace{number, column})
     return;
   std::size_t last = 0;
@@ -202,7 +203,7 @@ void SheetView::PaintMerged(QPainter& painter, const Pane& pane, const PaneCells
                             CellPainter& cellPainter) {
   for (const CellRange& range : shown.merged) {
     const QRect area = PlaceOf(range).translated(pane.origin);
-    const ShownCell cell = source_.CellAt(range.row1, range.column1);
+    const xlsx::CellContents cell = source_.CellAt(range.row1, range.column1);
     const bool filled = cellPainter.HasFill(cell) || !view_.gridLines;
     painter.fillRect(filled ? area.adjusted(-1, -1, 0, 0) : area.adjusted(0, 0, -1, -1),
                      cellPainter.Background(cell));

@@ -12,16 +12,16 @@ namespace plotsmith::render {
 namespace {
 
 using xlsx::BorderLine;
+using xlsx::CellContents;
 using xlsx::CellLook;
 using xlsx::CellRange;
-using xlsx::HorizontalAlignment;
+using xlsx::kBlanksPerIndent;
+using xlsx::TextSide;
 using xlsx::VerticalAlignment;
-using Kind = excel::CellValue::Kind;
 
 constexpr double kPointsPerPixel = 0.75;  // at 96 dpi
 /// The distance between the edge of a cell and its text, in points.
 constexpr double kCellPadding = 1.5;
-constexpr int kBlanksPerIndent = 3;
 constexpr double kGridLineWidth = 0.35;
 constexpr Color kBlack{0, 0, 0, 1};
 /// The number of columns beside the page that are searched for texts that extend into it.
@@ -46,34 +46,10 @@ std::vector<CellRange> OnPage(const std::vector<CellRange>& ranges, const CellRa
 
 Path RectPath(const Rect& rect) { return Path().AddRect(rect); }
 
-enum class TextSide { kLeft, kMiddle, kRight };
-
-TextSide SideOf(const PrintedCell& cell, const CellLook& look) {
-  switch (look.horizontal) {
-    case HorizontalAlignment::kLeft:
-    case HorizontalAlignment::kFill:
-      return TextSide::kLeft;
-    case HorizontalAlignment::kRight:
-      return TextSide::kRight;
-    case HorizontalAlignment::kCenter:
-    case HorizontalAlignment::kCenterAcross:
-      return TextSide::kMiddle;
-    case HorizontalAlignment::kGeneral:
-      break;
-  }
-  if (cell.IsNumber()) return TextSide::kRight;
-  return cell.kind == Kind::kBoolean || cell.kind == Kind::kError ? TextSide::kMiddle : TextSide::kLeft;
-}
-
 Font FontOf(const CellLook& look) { return {look.font, look.size, look.bold, look.italic, look.underline}; }
 
-/// Returns whether a text that is too long for its cell extends over empty cells beside it.
-bool MaySpread(const PrintedCell& cell, const CellLook& look) {
-  return cell.kind == Kind::kText && !look.wrap && look.horizontal != HorizontalAlignment::kFill;
-}
-
 /// Returns the width that a cell needs for its text, in points.
-double RoomFor(const PrintedCell& cell, const CellLook& look, const TextMeasure& measure) {
+double RoomFor(const CellContents& cell, const CellLook& look, const TextMeasure& measure) {
   const Font font = FontOf(look);
   const double indent =
       look.indent == 0 ? 0 : look.indent * kBlanksPerIndent * measure.Measure(" ", font).width;
@@ -133,7 +109,7 @@ class CellDrawing {
       }
     }
     for (const CellRange& range : merged_) {
-      const PrintedCell cell = sheet_.CellAt(range.row1, range.column1);
+      const CellContents cell = sheet_.CellAt(range.row1, range.column1);
       if (!cell.IsEmpty()) DrawIn(cell, sheet_.AreaOf(range), sheet_.AreaOf(range));
     }
   }
@@ -188,7 +164,7 @@ class CellDrawing {
   /// Draws the text of a cell. A text that is too long extends over empty cells beside it. If the cell isn't
   /// on the page, only a text that extends into the page is drawn.
   void DrawText(std::int32_t row, std::int32_t column, bool onPage) {
-    const PrintedCell cell = sheet_.CellAt(row, column);
+    const CellContents cell = sheet_.CellAt(row, column);
     const CellLook& look = sheet_.LookOf(cell.style);
     const Rect own = sheet_.AreaOf({row, column, row, column});
     if (own.width <= 0) return;
@@ -231,10 +207,10 @@ class CellDrawing {
     }
   }
 
-  std::vector<std::string> LinesOf(const PrintedCell& cell, const CellLook& look, double width) const {
+  std::vector<std::string> LinesOf(const CellContents& cell, const CellLook& look, double width) const {
     const Font font = FontOf(look);
     const auto widthOf = [&](std::string_view text) { return WidthOfText(text, font); };
-    if (cell.IsNumber()) return {FittedNumber(cell.number, cell.text, cell.general, width, widthOf)};
+    if (cell.IsNumber()) return {xlsx::FittedNumber(cell, width, widthOf)};
     if (look.wrap) return WrappedLines(cell.text, width, widthOf);
     // Line breaks have an effect only in cells that wrap.
     std::string line = cell.text;
@@ -244,7 +220,7 @@ class CellDrawing {
   }
 
   /// Draws the text of a cell in `area`, clipped to `seen`.
-  void DrawIn(const PrintedCell& cell, const Rect& area, const Rect& seen) {
+  void DrawIn(const CellContents& cell, const Rect& area, const Rect& seen) {
     const CellLook& look = sheet_.LookOf(cell.style);
     const TextSide side = SideOf(cell, look);
     const double indent = IndentOf(look);
@@ -318,7 +294,7 @@ class CellDrawing {
 
 std::int32_t LastColumnOfText(SheetReader& sheet, std::int32_t row, std::int32_t column,
                               const TextMeasure& measure) {
-  const PrintedCell cell = sheet.CellAt(row, column);
+  const CellContents cell = sheet.CellAt(row, column);
   const CellLook& look = sheet.LookOf(cell.style);
   if (!MaySpread(cell, look) || SideOf(cell, look) == TextSide::kRight) return column;
   const double width = sheet.Geometry().columns.SizeOf(column - 1);

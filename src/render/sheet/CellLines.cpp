@@ -1,8 +1,6 @@
 #include "render/sheet/CellLines.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstddef>
 
 namespace plotsmith::render {
@@ -51,14 +49,6 @@ void WrapParagraph(std::string_view text, double width, const WidthOf& widthOf,
   if (!line.empty()) lines.push_back(std::move(line));
 }
 
-/// Returns a number with `decimals` digits after the decimal point.
-std::string Fixed(double number, int decimals) {
-  std::array<char, 400> buffer;  // A double has at most 309 digits before the decimal point.
-  const auto end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed, decimals);
-  return std::string(buffer.data(), end.ptr);
-}
-
 }  // namespace
 
 std::vector<std::string> WrappedLines(std::string_view text, double width, const WidthOf& widthOf) {
@@ -71,22 +61,6 @@ std::vector<std::string> WrappedLines(std::string_view text, double width, const
     begin = end + 1;
   }
   return lines;
-}
-
-std::string FittedNumber(double number, const std::string& text, bool general, double width,
-                         const WidthOf& widthOf) {
-  if (widthOf(text) <= width) return text;
-  const bool canShorten =
-      general && text.find('E') == std::string::npos;  // Numbers with an exponent can hardly be shortened.
-  const std::size_t point = text.find_first_of(".,");
-  if (canShorten && point != std::string::npos) {
-    for (int decimals = static_cast<int>(text.size() - point) - 2; decimals >= 0; --decimals) {
-      const std::string shorter = Fixed(number, decimals);
-      if (widthOf(shorter) <= width) return shorter;
-    }
-  }
-  const double mark = std::max(widthOf("#"), 0.1);
-  return std::string(static_cast<std::size_t>(std::max(width / mark, 1.0)), '#');
 }
 
 }  // namespace plotsmith::render

@@ -14,9 +14,4 @@ using WidthOf = std::function<double(std::string_view)>;
 /// than a line.
 std::vector<std::string> WrappedLines(std::string_view text, double width, const WidthOf& widthOf);
 
-/// Returns the text that a cell with a width in points shows for a number. If `text` doesn't fit, a number in
-/// General format (`general`) loses decimals. Other numbers become as many "#" as fit.
-std::string FittedNumber(double number, const std::string& text, bool general, double width,
-                         const WidthOf& widthOf);
-
 }  // namespace plotsmith::render

@@ -7,31 +7,15 @@
 
 namespace plotsmith::render {
 
-using Kind = excel::CellValue::Kind;
-
 SheetReader::SheetReader(xlsx::Workbook& book, xlsx::Worksheet& sheet)
-    : book_(book), sheet_(sheet), geometry_(sheet.Geometry()) {}
+    : sheet_(sheet), geometry_(sheet.Geometry()), looks_(book) {}
 
 bool SheetReader::IsEmptyAt(std::int32_t row, std::int32_t column) {
-  return sheet_.Stored(row, column).kind == Kind::kEmpty;
+  return sheet_.Stored(row, column).kind == excel::CellValue::Kind::kEmpty;
 }
 
-PrintedCell SheetReader::CellAt(std::int32_t row, std::int32_t column) {
-  const excel::CellValue value = sheet_.Stored(row, column);
-  PrintedCell cell;
-  cell.kind = value.kind;
-  cell.number = value.number;
-  cell.style = sheet_.StyleAt(row, column);
-  cell.general = value.kind == Kind::kNumber && book_.Styles().IsGeneral(cell.style);
-  std::string scratch;
-  if (!cell.IsEmpty()) cell.text = sheet_.CellTextAt(row, column, scratch);
-  return cell;
-}
-
-const xlsx::CellLook& SheetReader::LookOf(std::uint32_t style) {
-  const auto found = looks_.find(style);
-  if (found != looks_.end()) return found->second;
-  return looks_.emplace(style, xlsx::LookOf(book_.Styles(), book_.Theme(), style)).first->second;
+xlsx::CellContents SheetReader::CellAt(std::int32_t row, std::int32_t column) {
+  return xlsx::ContentsAt(sheet_, row, column);
 }
 
 const xlsx::CellLook& SheetReader::LookAt(std::int32_t row, std::int32_t column) {

@@ -1,14 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
 #include <optional>
-#include <string>
 #include <vector>
 
-#include "host/excel/CellValue.h"
 #include "render/Drawing.h"
-#include "xlsx/CellLook.h"
+#include "xlsx/CellContents.h"
 #include "xlsx/sheet/Reference.h"
 #include "xlsx/sheet/SheetGeometry.h"
 
@@ -18,22 +15,6 @@ class Worksheet;
 }  // namespace plotsmith::xlsx
 
 namespace plotsmith::render {
-
-/// The contents of a cell.
-struct PrintedCell {
-  excel::CellValue::Kind kind = excel::CellValue::Kind::kEmpty;  ///< The kind of the value.
-  double number = 0;                                             ///< The value of a number or a date.
-  bool general = false;     ///< Whether it is a number in General format.
-  std::uint32_t style = 0;  ///< The style for SheetReader::LookOf.
-  std::string text;         ///< The displayed text, as in Range.Text.
-
-  /// Returns true if the cell has no value.
-  bool IsEmpty() const { return kind == excel::CellValue::Kind::kEmpty; }
-  /// Returns true if the cell has a number or a date.
-  bool IsNumber() const {
-    return kind == excel::CellValue::Kind::kNumber || kind == excel::CellValue::Kind::kDate;
-  }
-};
 
 /// Reads the printed contents of a worksheet. Rows and columns count from 1. Members throw RuntimeError if
 /// the sheet can't be read.
@@ -45,9 +26,9 @@ class SheetReader {
   /// Returns true if a cell has no value.
   bool IsEmptyAt(std::int32_t row, std::int32_t column);
   /// Returns the contents of a cell.
-  PrintedCell CellAt(std::int32_t row, std::int32_t column);
+  xlsx::CellContents CellAt(std::int32_t row, std::int32_t column);
   /// Returns the look of a style. The reference is valid while the reader exists.
-  const xlsx::CellLook& LookOf(std::uint32_t style);
+  const xlsx::CellLook& LookOf(std::uint32_t style) { return looks_.Of(style); }
   /// Returns the look of a cell.
   const xlsx::CellLook& LookAt(std::int32_t row, std::int32_t column);
   /// The sizes of rows and columns.
@@ -64,10 +45,9 @@ class SheetReader {
   /// Returns true if a cell has a value, a fill or a border.
   bool Shows(std::int32_t row, std::int32_t column);
 
-  xlsx::Workbook& book_;
   xlsx::Worksheet& sheet_;
   const xlsx::SheetGeometry& geometry_;
-  std::map<std::uint32_t, xlsx::CellLook> looks_;
+  xlsx::CellLooks looks_;
 };
 
 }  // namespace plotsmith::render

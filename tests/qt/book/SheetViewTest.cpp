@@ -68,7 +68,7 @@ TEST_F(SheetViewTest, TextsAreTheSameAsInTheCommand) {
   ASSERT_EQ(rows.size(), 40U);
   for (int row = 1; row <= 40; ++row) {
     for (int column = 1; column <= 6; ++column) {
-      EXPECT_EQ(Sheet().Source().CellAt(row, column).text.toStdString(),
+      EXPECT_EQ(Sheet().Source().CellAt(row, column).text,
                 rows[static_cast<std::size_t>(row) - 1][static_cast<std::size_t>(column) - 1].get<S>());
     }
   }
