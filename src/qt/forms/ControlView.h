@@ -8,13 +8,13 @@
 #include <string_view>
 
 #include "forms/Control.h"
+#include "forms/PendingGestures.h"
 
 /// Windows for forms, made with Qt Widgets. A view shows the state of the model and reports the actions of
 /// the user. The model performs or refuses an action, and the view then shows the result.
 namespace plotsmith::qt {
 
-/// Stores an action of the user, which is performed later, outside Qt's callbacks.
-using Post = std::function<void(std::function<void()> gesture)>;
+using forms::Post;
 
 /// Convert between the UTF-8 texts of the model and Qt's strings.
 ///@{

@@ -4,15 +4,11 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
-#include <utility>
 
 namespace plotsmith::qt {
 
 void QtView::Open(forms::Form& form) {
-  const Post post = [this, &form](std::function<void()> gesture) {
-    pending_.push_back({&form, std::move(gesture)});
-  };
-  windows_.push_back(std::make_unique<FormWindow>(form, owner_, post, presses_));
+  windows_.push_back(std::make_unique<FormWindow>(form, owner_, pending_.PostFor(form), presses_));
   windows_.back()->show();
   windows_.back()->activateWindow();
   ShowChanges();  // Hide old windows after the new one is shown, so that there is always a window.
@@ -21,7 +17,7 @@ void QtView::Open(forms::Form& form) {
 }
 
 void QtView::Close(forms::Form& form) {
-  std::erase_if(pending_, [&](const Gesture& gesture) { return gesture.form == &form; });
+  pending_.Discard(form);
   windows_.pop_back();
   if (Front() != nullptr) Front()->BecomeFront();
 }
@@ -31,23 +27,19 @@ void QtView::ShowChanges() {
   Shown();
 }
 
-void QtView::PostTo(forms::EventQueue& queue) {
-  for (Gesture& gesture : std::exchange(pending_, {})) queue.Post(*gesture.form, std::move(gesture.gesture));
-}
-
 void QtView::Wait(forms::EventQueue& queue, std::optional<std::chrono::milliseconds> atMost) {
   ShowChanges();
   const QDeadlineTimer deadline = atMost ? QDeadlineTimer(*atMost) : QDeadlineTimer(QDeadlineTimer::Forever);
   QTimer alarm;  // processEvents has no timeout for waiting.
   if (atMost) alarm.start(*atMost);
   waits_ = true;
-  while (pending_.empty() && !closesAll_ && !deadline.hasExpired()) {
+  while (pending_.IsEmpty() && !closesAll_ && !deadline.hasExpired()) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
   waits_ = false;
   if (closesAll_) {
-    pending_.clear();
+    pending_.Clear();
     forms::Form& form = Front()->Model();
     queue.Post(form, [&form] { form.UserClose(); });
   }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/ModalLoop.h"
+#include "forms/PendingGestures.h"
 #include "qt/forms/FormWindow.h"
 #include "qt/forms/HeldKeys.h"
 
@@ -30,23 +31,18 @@ class QtView final : public forms::View {
   /// Shows the changes.
   void ShowChanges();
   /// Moves the user's actions to the queue.
-  void PostTo(forms::EventQueue& queue);
+  void PostTo(forms::EventQueue& queue) { pending_.MoveTo(queue); }
   /// Closes the next form that waits, as a user would, and all forms behind it.
   void CloseAll() { closesAll_ = true; }
   /// Cancels CloseAll before a new run.
   void CancelCloseAll() { closesAll_ = false; }
 
  private:
-  struct Gesture {
-    forms::Form* form;
-    std::function<void()> gesture;
-  };
-
   QWidget* owner_ = nullptr;
   HeldKeys heldKeys_;
   forms::SecondPress presses_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
-  std::vector<Gesture> pending_;
+  forms::PendingGestures pending_;
   bool closesAll_ = false;
   bool waits_ = false;
 };

@@ -7,6 +7,7 @@
 
 #include "forms/Arrangement.h"
 #include "forms/Control.h"
+#include "forms/PendingGestures.h"
 #include "windows/com/Windows.h"
 #include "windows/views/Annotations.h"
 #include "windows/views/Fonts.h"
@@ -16,8 +17,7 @@
 /// gesture, and the view then shows the new state.
 namespace plotsmith::windows {
 
-/// Queues a gesture, which is performed later, outside of all window procedures.
-using Post = std::function<void(std::function<void()> gesture)>;
+using forms::Post;
 
 /// The parts that the views of a form share.
 struct Stage {

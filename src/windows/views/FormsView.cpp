@@ -32,17 +32,14 @@ HWND FormsView::Owner() const {
 void FormsView::Open(forms::Form& form) {
   const ThreadDpi dpi;
   if (windows_.empty()) heldKeys_.emplace();
-  const Post post = [this, &form](std::function<void()> gesture) {
-    pending_.push_back({&form, std::move(gesture)});
-  };
-  windows_.push_back(std::make_unique<FormWindow>(form, Owner(), post, presses_));
+  windows_.push_back(std::make_unique<FormWindow>(form, Owner(), pending_.PostFor(form), presses_));
   windows_.back()->ShowOnScreen();
   ShowChanges();  // after the new window has appeared, so that a window is always on the screen
 }
 
 void FormsView::Close(forms::Form& form) {
   const ThreadDpi dpi;
-  std::erase_if(pending_, [&](const Gesture& gesture) { return gesture.form == &form; });
+  pending_.Discard(form);
   windows_.pop_back();
   if (Front() != nullptr) {
     Front()->BecomeFront();
@@ -58,10 +55,6 @@ void FormsView::PostQuitAgain() {
 
 void FormsView::ShowChanges() {
   for (const auto& window : windows_) window->Update();
-}
-
-void FormsView::PostTo(forms::EventQueue& queue) {
-  for (Gesture& gesture : std::exchange(pending_, {})) queue.Post(*gesture.form, std::move(gesture.gesture));
 }
 
 bool FormsView::HandleMessage(UINT kinds) {
@@ -87,7 +80,7 @@ void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::millis
   ShowChanges();
   std::optional<Clock::time_point> deadline;
   if (atMost) deadline = Clock::now() + *atMost;
-  while (pending_.empty() && !IsFrontGone()) {
+  while (pending_.IsEmpty() && !IsFrontGone()) {
     if (HandleMessage()) continue;
     const DWORD time = TimeUntil(deadline);
     if (time == 0) break;
@@ -95,7 +88,7 @@ void FormsView::Wait(forms::EventQueue& queue, std::optional<std::chrono::millis
   }
   com::NoteChange();  // The host's own windows could handle messages.
   if (IsFrontGone()) {
-    pending_.clear();
+    pending_.Clear();
     forms::Form& form = Front()->Model();
     queue.Post(form, [&form] { form.UserClose(); });
   }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "forms/ModalLoop.h"
+#include "forms/PendingGestures.h"
 #include "forms/SecondPress.h"
 #include "windows/views/FormWindow.h"
 #include "windows/views/KeyMessages.h"
@@ -34,7 +35,7 @@ class FormsView final : public forms::View {
   /// Shows the changes of all forms.
   void ShowChanges();
   /// Moves the reported gestures to the queue.
-  void PostTo(forms::EventQueue& queue);
+  void PostTo(forms::EventQueue& queue) { pending_.MoveTo(queue); }
   /// Handles the thread's next message of these kinds (flags of PeekMessage; 0 for all). Returns false if
   /// there is none.
   bool HandleMessage(UINT kinds = 0);
@@ -42,10 +43,6 @@ class FormsView final : public forms::View {
  private:
   /// Posts again a WM_QUIT that was meant for the host.
   void PostQuitAgain();
-  struct Gesture {
-    forms::Form* form;
-    std::function<void()> gesture;
-  };
 
   HWND Owner() const;
 
@@ -53,7 +50,7 @@ class FormsView final : public forms::View {
   std::optional<HeldKeys> heldKeys_;  ///< held while a form is open
   forms::SecondPress presses_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
-  std::vector<Gesture> pending_;
+  forms::PendingGestures pending_;
   /// The exit code of a WM_QUIT that was taken out of the queue. The message is meant for the host's own
   /// loop, and is posted again when the last form has closed.
   std::optional<int> quitCode_;
