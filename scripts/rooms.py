@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
 """Writes the tables of docs/architecture.md again from docs/rooms.tsv."""
 
+import argparse
 import pathlib
 import re
+
+argparse.ArgumentParser(description=__doc__).parse_args()
 
 DOCS = pathlib.Path(__file__).resolve().parent.parent / "docs"
 HEAD = "| in `src/` | what is in it | may include |\n|---|---|---|\n"

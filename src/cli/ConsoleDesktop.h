@@ -21,8 +21,18 @@ class ConsoleDesktop : public desktop::Desktop {
 
   /// The texts of the message boxes, one line each: title, colon, text.
   const std::vector<std::string>& Messages() const { return messages_; }
+  /// Returns true if a question was answered with OK since the last Forget. The system's only question is the
+  /// confirmation of a deletion.
+  bool Confirmed() const { return confirmed_; }
+  /// Resets Confirmed.
+  void Forget() { confirmed_ = false; }
+
+ protected:
+  /// Notes that a question was answered with OK.
+  void Confirm() { confirmed_ = true; }
 
  private:
+  bool confirmed_ = false;
   std::vector<std::string> messages_;
 };
 

@@ -9,7 +9,7 @@ class App;
 
 namespace plotsmith::cli {
 
-/// Parses the arguments, which begin behind the name of the program. Throws CommandError if they are wrong,
+/// Parses the arguments, which begin after the name of the program. Throws CommandError if they are wrong,
 /// and CLI::Success if they ask for the help or the version.
 ///
 /// CLI11 would read some values as something else: "[a,b]" as two values of an option that takes several,

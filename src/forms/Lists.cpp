@@ -23,11 +23,8 @@ void EntryList::SetListIndex(std::int32_t index) {
   if (moved) Raise(Click);
 }
 
-void EntryList::AddItem(std::string_view text, std::optional<std::int32_t> at) {
-  const std::int32_t place = at.value_or(ListCount());
-  if (place < 0 || place > ListCount()) throw RuntimeError(runtime::error::kInvalidCall);
-  list_.emplace(list_.begin() + place, text);
-  if (listIndex_ >= place) ++listIndex_;
+void EntryList::AddItem(std::string_view text) {
+  list_.emplace_back(text);
   Changed();
 }
 
@@ -99,9 +96,9 @@ std::int32_t ListBox::SelCount() const {
   return static_cast<std::int32_t>(std::count(selected_.begin(), selected_.end(), true));
 }
 
-void ListBox::AddItem(std::string_view text, std::optional<std::int32_t> at) {
-  EntryList::AddItem(text, at);
-  selected_.insert(selected_.begin() + at.value_or(ListCount() - 1), false);
+void ListBox::AddItem(std::string_view text) {
+  EntryList::AddItem(text);
+  selected_.push_back(false);
 }
 
 void ListBox::Clear() {

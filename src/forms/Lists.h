@@ -27,8 +27,8 @@ class EntryList : public FontControl {
   /// Sets the current entry; -1 means none. Raises Click if it changes. Raises error 380 if the index is out
   /// of range.
   void SetListIndex(std::int32_t index);
-  /// Inserts an entry before index `at`, or at the end. The current entry doesn't change. Raises no event.
-  virtual void AddItem(std::string_view text, std::optional<std::int32_t> at = std::nullopt);
+  /// Adds an entry at the end. Raises no event.
+  virtual void AddItem(std::string_view text);
   /// Removes all entries. Raises no event.
   virtual void Clear();
 
@@ -107,7 +107,7 @@ class ListBox : public EntryList {
   void SetSelected(std::int32_t index, bool value);
   /// The number of selected entries.
   std::int32_t SelCount() const;
-  void AddItem(std::string_view text, std::optional<std::int32_t> at = std::nullopt) override;
+  void AddItem(std::string_view text) override;
   void Clear() override;
 
   /// Handles a selection by the user: exactly these entries, counted from 0. Raises Click once. Returns false

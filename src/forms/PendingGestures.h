@@ -14,6 +14,10 @@ using Post = std::function<void(std::function<void()> gesture)>;
 /// The actions of the user that a view has received and not yet given to the loop.
 class PendingGestures {
  public:
+  PendingGestures() = default;
+  PendingGestures(const PendingGestures&) = delete;
+  PendingGestures& operator=(const PendingGestures&) = delete;
+
   /// Returns a function that stores the actions for a form. The gestures must outlive the function.
   Post PostFor(Form& form) {
     return [this, &form](std::function<void()> gesture) { pending_.push_back({&form, std::move(gesture)}); };

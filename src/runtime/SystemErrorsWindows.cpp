@@ -4,6 +4,7 @@
 
 #include "runtime/Strings.h"
 #include "runtime/SystemErrors.h"
+#include "runtime/WindowsErrors.h"
 
 namespace plotsmith::runtime {
 

@@ -140,7 +140,7 @@ namespace {
 enum class Separators { kNone, kThousands };
 
 /// Reads the number whose digits begin at `i`. Returns infinity if it is too large, and nothing if there is
-/// no digit. Moves `i` behind the number. An exponent belongs to the number only if it has digits.
+/// no digit. Moves `i` past the number. An exponent belongs to the number only if it has digits.
 std::optional<double> NumberAt(std::string_view text, std::size_t& i, Separators separators) {
   const bool commas = separators == Separators::kThousands;
   const auto at = [&](std::size_t p) { return p < text.size() ? text[p] : '\0'; };

@@ -228,7 +228,7 @@ bool SheetList::Changed() const {
 void SheetList::Write() {
   for (const auto& sheet : worksheets_) sheet->Write();
   RowShifts& shifts = book_.Shifts();
-  if (!shifts.AnyBehind(followed_)) return;
+  if (!shifts.AnyAfter(followed_)) return;
   for (const auto& sheet : worksheets_) sheet->FollowShifts(followed_);
   followed_ = shifts.Mark();
 }

@@ -14,7 +14,6 @@ namespace plotsmith {
 namespace {
 
 using namespace test;
-using render::MakePdf;
 using render::MakePng;
 using render::MakeSvg;
 using render::Path;
@@ -167,8 +166,13 @@ TEST_F(PictureFilesTest, LinesAndEdgesOfPicturesLieOnPixels) {
 
 TEST_F(PictureFilesTest, PdfHasAPageForEachDrawing) {
   const Drawing pages[] = {Small(), Columns(1, 2)};
-  const S pdf = MakePdf(pages, SharedFonts());
-  EXPECT_EQ(pdf, MakePdf(pages, SharedFonts()));
+  const auto makePdf = [&] {
+    const auto document = render::NewPdf(SharedFonts());
+    for (const Drawing& page : pages) document->Add(page);
+    return document->Finish();
+  };
+  const S pdf = makePdf();
+  EXPECT_EQ(pdf, makePdf());
   EXPECT_EQ(pdf.substr(0, 5), "%PDF-");
   EXPECT_NE(pdf.find("/Count 2"), S::npos);
   EXPECT_NE(pdf.find("/MediaBox [ 0 0 72 36 ]"), S::npos);

@@ -38,7 +38,7 @@ TEST(MergedCellsTest, ContainTheCellsOfTheirRangesInAnyOrderOfRows) {
         const bool holds = std::any_of(test.ranges.begin(), test.ranges.end(), [&](const CellRange& range) {
           return range.row1 <= row && row <= range.row2 && range.column1 <= column && column <= range.column2;
         });
-        EXPECT_EQ(merged.Hold(row, column), holds) << test.what << ' ' << row << ' ' << column;
+        EXPECT_EQ(merged.AreAt(row, column), holds) << test.what << ' ' << row << ' ' << column;
       }
     }
   }

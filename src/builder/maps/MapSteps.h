@@ -102,7 +102,7 @@ class Numbering {
 
   /// Returns True if a heading that was found in a row has no number yet. The call adds its key to the
   /// dictionary. `sScratch` is the scratch buffer of the text.
-  bool IsNew(std::string_view sText, const std::string& sScratch) {
+  bool AddIfNew(std::string_view sText, const std::string& sScratch) {
     return oKnown_.Find(sText, sScratch) < 1 && IsNewKey(sText, sScratch);
   }
   /// The upper-cased text of the last call to IsNew.
@@ -111,7 +111,7 @@ class Numbering {
   void Number(std::string_view sName);
   /// Gives a text the next number if it is new.
   void NumberIfNew(std::string_view sText, const std::string& sScratch) {
-    if (IsNew(sText, sScratch)) Number(sText);
+    if (AddIfNew(sText, sScratch)) Number(sText);
   }
 
  private:

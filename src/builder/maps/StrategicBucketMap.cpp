@@ -29,7 +29,7 @@ void NumberItems(const IXMLDOMElement& oChartElement, const DataRows& oRows, exc
   std::string sScratch;
   for (std::int32_t lRow = oRows.lFirst; lRow <= oRows.Last(); ++lRow) {
     const std::string_view sText = GetCellText(oSheet, lRow, lItemColumn, sScratch);
-    if (oItems.IsNew(sText, sScratch)) {
+    if (oItems.AddIfNew(sText, sScratch)) {
       // The row of the buckets counts as well. The name that reaches the limit gets no number, but its key is
       // in the dictionary, so there is one row more than there are items.
       if (oItems.Count() + 1 >= kSeriesLimit) {

@@ -3,11 +3,10 @@
 #include "cli/commands/Cells.h"
 #include "cli/commands/Charts.h"
 #include "cli/commands/Check.h"
-#include "cli/commands/CopyChart.h"
 #include "cli/commands/Definition.h"
 #include "cli/commands/DeleteCharts.h"
+#include "cli/commands/EditChart.h"
 #include "cli/commands/Format.h"
-#include "cli/commands/ModifyChart.h"
 #include "cli/commands/NewChart.h"
 #include "cli/commands/Refresh.h"
 #include "cli/commands/RenameColumns.h"
@@ -23,8 +22,10 @@ std::vector<std::unique_ptr<Command>> MakeCommands() {
   commands.push_back(std::make_unique<RefreshCommand>());
   commands.push_back(std::make_unique<RenderCommand>());
   commands.push_back(std::make_unique<NewChartCommand>());
-  commands.push_back(std::make_unique<ModifyChartCommand>());
-  commands.push_back(std::make_unique<CopyChartCommand>());
+  commands.push_back(std::make_unique<EditChartCommand>(
+      "modify", "Change a chart; settings without an option don't change", ChartWork::kModify));
+  commands.push_back(std::make_unique<EditChartCommand>(
+      "copy", "Copy a chart; settings without an option are copied", ChartWork::kCopy));
   commands.push_back(std::make_unique<DeleteChartsCommand>());
   commands.push_back(std::make_unique<WizardCommand>());
   commands.push_back(std::make_unique<RenameColumnsCommand>());

@@ -76,19 +76,19 @@ int WizardCommand::Play(std::istream& script, const GlobalOptions& options, cons
     pages.flush();
   };
   WizardRun run(book_, options, streams, lines, print, Outside::kScript);
-  run.Workbook().CheckWritable(output_);
-  run.Workbook().CheckBeforeRun(DefinitionsAre::kEdited);
+  run.OpenSession().CheckWritable(output_);
+  run.OpenSession().CheckBeforeRun(DefinitionsAre::kEdited);
   run.Play();
   if (const auto& failure = run.Player().Failed()) {
-    run.Workbook().Finish();
+    run.OpenSession().Finish();
     throw CommandError(exit_code::kUsage,
                        *script_ + ":" + std::to_string(failure->line) + ": " + failure->sentence + ".");
   }
   if (show_ && run.Player().LastState()) print(*run.Player().LastState());
   if (run.HasChangedCharts()) {
-    run.Workbook().Save(output_);
+    run.OpenSession().Save(output_);
   } else {
-    run.Workbook().Finish();
+    run.OpenSession().Finish();
   }
   return exit_code::kDone;  // A script that fits the pages has succeeded, even if the workbook has problems.
 }

@@ -31,7 +31,7 @@ std::size_t VerbPosition(const std::vector<std::string>& arguments, const CLI::A
 }
 
 /// A number format or a value can look like an option ("-0.0", "-h:mm"). Therefore arguments of the verb
-/// `format` that aren't complete option names are moved behind "--". `at` is the position of the verb.
+/// `format` that aren't complete option names are moved after "--". `at` is the position of the verb.
 std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments, std::size_t at,
                                                      const CLI::App& app) {
   if (at >= arguments.size() || arguments[at] != "format") return arguments;

@@ -30,21 +30,21 @@ int PlayVerb(VerbScript& script, const VerbOptions& verb, const GlobalOptions& o
       verb.book, options, streams, script, [](const forms::FormState&) {}, Outside::kCommand);
   script.SetPageMessages(run.Desktop().PageMessages());
   if (!verb.printScript) {
-    run.Workbook().CheckWritable(verb.output);
-    run.Workbook().CheckBeforeRun(DefinitionsAre::kEdited);
+    run.OpenSession().CheckWritable(verb.output);
+    run.OpenSession().CheckBeforeRun(DefinitionsAre::kEdited);
   }
   run.Play();
   if (const auto& failure = run.Player().Failed()) {
-    run.Workbook().Finish();
+    run.OpenSession().Finish();
     throw CommandError(exit_code::kUsage, Ended(failure->sentence));
   }
   if (!run.HasChangedCharts()) {
     // The run ended early and has reported the reason.
-    run.Workbook().Finish();
+    run.OpenSession().Finish();
     throw CommandError(exit_code::kUsage, "nothing was done, and nothing is saved.");
   }
-  if (!verb.printScript) return run.Workbook().Save(verb.output);
-  const int code = run.Workbook().Finish();
+  if (!verb.printScript) return run.OpenSession().Save(verb.output);
+  const int code = run.OpenSession().Finish();
   for (const std::string& line : script.Lines()) streams.out << line << '\n';
   return code;
 }

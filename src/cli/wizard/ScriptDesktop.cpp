@@ -13,7 +13,7 @@ std::int32_t ScriptDesktop::MsgBox(std::string_view text, desktop::Buttons butto
                                    std::string_view title) {
   if (buttons == desktop::Buttons::kOkCancel) {
     const bool ok = player_->Answer(text);
-    confirmed_ = confirmed_ || ok;
+    if (ok) Confirm();
     return ok ? desktop::kOk : desktop::kCancel;
   }
   player_->AddMessage(text);

@@ -27,16 +27,12 @@ class ScriptDesktop final : public ConsoleDesktop {
                       std::string_view title) override;
   void ShowHelp(std::intptr_t, const std::string&, std::int32_t) override {}
 
-  /// Returns true if a question was answered with OK. The system's only question is the confirmation of a
-  /// deletion.
-  bool Confirmed() const { return confirmed_; }
   /// The messages of pages, in the spelling of the script player.
   const std::vector<std::string>& PageMessages() const { return pageMessages_; }
 
  private:
   std::shared_ptr<forms::ScriptPlayer> player_;
   Outside outside_;
-  bool confirmed_ = false;
   std::vector<std::string> pageMessages_;
 };
 

@@ -22,7 +22,7 @@ class WizardRun {
   void Play();
 
   /// The session with the workbook of the run.
-  Session& Workbook() { return session_; }
+  Session& OpenSession() { return session_; }
   /// The player of the script.
   const forms::ScriptPlayer& Player() const { return *player_; }
   /// The desktop, which has collected the messages.

@@ -42,7 +42,7 @@ constexpr std::array kVerbs = {
     VerbForm{"show", "show", 0, 0},
 };
 
-/// Returns the character of an escape sequence. `at` is after the backslash, and moves behind the sequence.
+/// Returns the character of an escape sequence. `at` is after the backslash, and moves past the sequence.
 char Unescaped(std::string_view line, std::size_t& at) {
   const char c = at < line.size() ? line[at++] : '\0';
   if (c == 'n') return '\n';
@@ -54,7 +54,7 @@ char Unescaped(std::string_view line, std::size_t& at) {
                     "; it can have \\\" for a quotation mark, \\\\ for a backslash and \\n for a new line");
 }
 
-/// Reads a text in double quotes that begins at `at`, and moves `at` behind it.
+/// Reads a text in double quotes that begins at `at`, and moves `at` past it.
 Word QuotedWord(std::string_view line, std::size_t& at) {
   Word word{"", true};
   for (++at;;) {

@@ -4,7 +4,7 @@
 #include <QtCore/QEventLoop>
 #include <QtWidgets/QDialog>
 
-#include "qt/wizard/SecondPress.h"
+#include "qt/wizard/PressAfterShow.h"
 
 namespace plotsmith::qt {
 
@@ -19,7 +19,7 @@ void ProcessEventsUntil(const Condition& isDone) {
 inline int RunDialog(QDialog& dialog) {
   dialog.setModal(true);
   dialog.show();
-  new SecondPress(dialog);
+  new PressAfterShow(dialog);
   ProcessEventsUntil([&] { return !dialog.isVisible(); });
   return dialog.result();
 }

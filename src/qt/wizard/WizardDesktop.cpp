@@ -34,7 +34,7 @@ std::int32_t WizardDesktop::MsgBox(std::string_view text, desktop::Buttons butto
       isQuestion ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::StandardButtons(QMessageBox::Ok),
       QMessageBox::Ok, title);
   const bool isOk = answer == QMessageBox::Ok;
-  confirmed_ = confirmed_ || (isQuestion && isOk);
+  if (isQuestion && isOk) Confirm();
   return isOk || !isQuestion ? desktop::kOk : desktop::kCancel;
 }
 

@@ -30,11 +30,6 @@ class WizardDesktop final : public cli::ConsoleDesktop {
 
   /// Sets the window that messages stay in front of if no page is open; null for none.
   void SetOwner(QWidget* owner) { owner_ = owner; }
-  /// Returns true if a question was answered with OK since the last Forget. The system's only question is the
-  /// confirmation of a deletion.
-  bool Confirmed() const { return confirmed_; }
-  /// Resets Confirmed.
-  void Forget() { confirmed_ = false; }
   /// The help window, which is made at the first call.
   HelpWindow& Help();
 
@@ -44,7 +39,6 @@ class WizardDesktop final : public cli::ConsoleDesktop {
   std::shared_ptr<QtView> pages_;
   QWidget* owner_ = nullptr;
   std::unique_ptr<HelpWindow> help_;
-  bool confirmed_ = false;
   bool yields_ = false;
   QElapsedTimer sinceYield_;
 };

@@ -10,7 +10,7 @@
 
 #include "qt/book/BookView.h"
 #include "qt/wizard/EventLoop.h"
-#include "qt/wizard/SecondPress.h"
+#include "qt/wizard/PressAfterShow.h"
 
 namespace plotsmith::qt {
 namespace {
@@ -68,7 +68,7 @@ void WizardWindow::ShowBar(const QString& text, const QStringList& buttons) {
     }
   }
   bar_->show();
-  delete std::exchange(secondPress_, new SecondPress(*bar_));
+  delete std::exchange(pressAfterShow_, new PressAfterShow(*bar_));
 }
 
 int WizardWindow::Ask(const QString& text, const QStringList& buttons) {

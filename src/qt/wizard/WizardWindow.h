@@ -16,7 +16,7 @@ class BookView;
 
 namespace plotsmith::qt {
 
-class SecondPress;
+class PressAfterShow;
 
 /// The window behind the pages. It shows the workbook and, after a run, a bar with the result and the next
 /// actions.
@@ -51,7 +51,7 @@ class WizardWindow final : public QMainWindow {
   QWidget* bar_;
   QLabel* text_;
   QHBoxLayout* row_;
-  SecondPress* secondPress_ = nullptr;
+  PressAfterShow* pressAfterShow_ = nullptr;
   bool asks_ = false;
   int answer_ = kClosed;
   bool answered_ = false;

@@ -257,10 +257,4 @@ class CairoPdf final : public PdfDocument {
 
 std::unique_ptr<PdfDocument> NewPdf(const CairoFonts& fonts) { return std::make_unique<CairoPdf>(fonts); }
 
-std::string MakePdf(std::span<const Drawing> pages, const CairoFonts& fonts) {
-  const auto document = NewPdf(fonts);
-  for (const Drawing& page : pages) document->Add(page);
-  return document->Finish();
-}
-
 }  // namespace plotsmith::render

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <span>
 #include <string>
 
 #include "render/Drawing.h"
@@ -21,9 +20,7 @@ void Paint(cairo_t* cr, const Drawing& drawing, const CairoFonts& fonts);
 std::string MakePng(const Drawing& drawing, const CairoFonts& fonts, double dpi = 96);
 /// Returns the pixels of the picture that MakePng encodes. Throws the same exception.
 Raster MakeRaster(const Drawing& drawing, const CairoFonts& fonts, double dpi = 96);
-/// Begins a PDF document without a page. `fonts` must outlive it.
+/// Begins a PDF document without a page. `fonts` must outlive it. Its bytes are the same on every run.
 std::unique_ptr<PdfDocument> NewPdf(const CairoFonts& fonts);
-/// Returns the bytes of a PDF document with a page for each drawing, which are the same on every run.
-std::string MakePdf(std::span<const Drawing> pages, const CairoFonts& fonts);
 
 }  // namespace plotsmith::render

@@ -137,7 +137,7 @@ class CellDrawing {
     }
   }
 
-  bool IsMerged(std::int32_t row, std::int32_t column) { return mergedCells_.Hold(row, column); }
+  bool IsMerged(std::int32_t row, std::int32_t column) { return mergedCells_.AreAt(row, column); }
 
   /// Returns whether the text of a neighbour may extend over the cell.
   bool IsFree(std::int32_t row, std::int32_t column) {

@@ -11,7 +11,7 @@ MergedCells::MergedCells(std::vector<CellRange> ranges) : ranges_(std::move(rang
             [](const CellRange& a, const CellRange& b) { return a.row1 < b.row1; });
 }
 
-bool MergedCells::Hold(std::int32_t row, std::int32_t column) {
+bool MergedCells::AreAt(std::int32_t row, std::int32_t column) {
   if (row != row_) GoTo(row);
   const auto behind =
       std::upper_bound(columns_.begin(), columns_.end(), column,

@@ -17,7 +17,7 @@ class MergedCells {
   explicit MergedCells(std::vector<xlsx::CellRange> ranges);
 
   /// Returns true if a cell is in a merged range. Rows and columns count from 1.
-  bool Hold(std::int32_t row, std::int32_t column);
+  bool AreAt(std::int32_t row, std::int32_t column);
 
  private:
   /// Sets `columns_` for a row.

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "runtime/SystemErrors.h"
+#include "runtime/WindowsErrors.h"
 #include "windows/com/Texts.h"
 
 namespace plotsmith::com {

@@ -53,7 +53,7 @@ void NameList::FollowTabs(std::size_t position, int step) {
 }
 
 void NameList::FollowRows(RowShifts& shifts) {
-  if (!shifts.AnyBehind(followed_)) return;
+  if (!shifts.AnyAfter(followed_)) return;
   const auto nodes = NameNodes(book_);
   for (std::size_t i = 0; i < names_.size(); ++i) {
     const auto moved = shifts.Follow(names_[i].definition, "", followed_);

@@ -5,8 +5,8 @@
 #include <utility>
 #include <windows.h>
 
-#include "runtime/SystemErrors.h"
 #include "runtime/Utf8Path.h"
+#include "runtime/WindowsErrors.h"
 #include "xlsx/package/AtomicFile.h"
 #include "xlsx/package/PackageError.h"
 

@@ -22,7 +22,7 @@ class RowShifts {
   /// Returns true if no row has moved.
   bool None() const { return count_ == 0; }
   /// Returns true if there are shifts after a mark.
-  bool AnyBehind(std::size_t mark) const { return count_ > mark; }
+  bool AnyAfter(std::size_t mark) const { return count_ > mark; }
   /// Returns the mark of an object that has followed all shifts.
   std::size_t Mark() {
     marked_ = true;

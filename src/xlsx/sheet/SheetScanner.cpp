@@ -202,7 +202,7 @@ void SheetScanner::ReadRows() {
 }
 
 /// Reads from the end of the cells up to the first element that follows `mergeCells` in the schema
-/// (CT_Worksheet). Returns the first tag behind the merged cells.
+/// (CT_Worksheet). Returns the first tag after the merged cells.
 SheetScanner::Tag SheetScanner::ReadMergedCells() {
   static constexpr std::array<std::string_view, 10> kUpToMergedCells = {
       "sheetCalcPr", "sheetProtection", "protectedRanges",  "scenarios",  "autoFilter",

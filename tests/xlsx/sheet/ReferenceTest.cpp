@@ -213,10 +213,10 @@ TEST(RowShiftsTest, ChangesAtOnePlaceBecomeOneUnlessSomethingFollowedThem) {
       }
     }
     for (auto& follower : followers) {
-      EXPECT_TRUE(shifts.AnyBehind(follower.first));
+      EXPECT_TRUE(shifts.AnyAfter(follower.first));
       follow(follower);
       EXPECT_EQ(follower.second, c.shifted);
-      EXPECT_FALSE(shifts.AnyBehind(follower.first));
+      EXPECT_FALSE(shifts.AnyAfter(follower.first));
     }
     EXPECT_FALSE(shifts.None());
   }

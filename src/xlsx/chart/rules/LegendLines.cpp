@@ -82,12 +82,12 @@ std::vector<std::size_t> LegendNumbers(ChartPart& part, std::size_t most) {
   return left;
 }
 
-std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most) {
+std::vector<LegendLine> LegendLines(ChartPart& part) {
   const bool points = ListsPoints(part);
   const Levels categories =
       points ? CategoryLevels(part, xml::Child(part.Series()[0]->node, "cat")) : Levels();
   std::vector<LegendLine> lines;
-  for (const std::size_t number : LegendNumbers(part, most)) {
+  for (const std::size_t number : LegendNumbers(part, kMostLegendEntries)) {
     if (!points) {
       lines.push_back({number, number, std::nullopt, ShownName(part, part.Series()[number]->node)});
     } else {

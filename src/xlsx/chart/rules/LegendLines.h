@@ -24,9 +24,9 @@ std::vector<std::size_t> LegendNumbers(ChartPart& part, std::size_t most = SIZE_
 /// The maximum number of entries whose texts are read. A text can take 100 KB even in a small file, because
 /// all entries share the texts of the outer levels of categories.
 inline constexpr std::size_t kMostLegendEntries = 2000;
-/// The first `most` entries that were not deleted, with their texts. The text of a category has at most as
-/// many characters as a cell.
-std::vector<LegendLine> LegendLines(ChartPart& part, std::size_t most = kMostLegendEntries);
+/// The first kMostLegendEntries entries that were not deleted, with their texts. The text of a category has
+/// at most as many characters as a cell.
+std::vector<LegendLine> LegendLines(ChartPart& part);
 /// The texts of the same entries.
 std::vector<std::string> LegendTexts(ChartPart& part);
 

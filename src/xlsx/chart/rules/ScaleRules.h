@@ -23,6 +23,6 @@ struct AxisSettings {
 /// Returns the scale for data from `least` to `greatest`.
 AxisScale ScaleAxis(double least, double greatest, const AxisSettings& settings = {});
 /// Returns the scale of an axis without data.
-AxisScale ScaleEmptyAxis(const AxisSettings& settings = {});
+AxisScale ScaleEmptyAxis(const AxisSettings& settings);
 
 }  // namespace plotsmith::xlsx

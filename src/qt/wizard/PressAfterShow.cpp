@@ -1,4 +1,4 @@
-#include "qt/wizard/SecondPress.h"
+#include "qt/wizard/PressAfterShow.h"
 
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
@@ -8,12 +8,12 @@
 
 namespace plotsmith::qt {
 
-SecondPress::SecondPress(QWidget& window) : QObject(&window), pointer_(QCursor::pos()) {
+PressAfterShow::PressAfterShow(QWidget& window) : QObject(&window), pointer_(QCursor::pos()) {
   sinceShown_.start();
   for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) button->installEventFilter(this);
 }
 
-bool SecondPress::eventFilter(QObject*, QEvent* event) {
+bool PressAfterShow::eventFilter(QObject*, QEvent* event) {
   if (event->type() == QEvent::MouseButtonDblClick) return true;
   if (event->type() != QEvent::MouseButtonPress) return false;
   const QStyleHints& hints = *QGuiApplication::styleHints();

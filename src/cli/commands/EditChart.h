@@ -4,18 +4,22 @@
 
 #include "cli/Command.h"
 #include "cli/wizard/ChartOptions.h"
+#include "cli/wizard/ChartScript.h"
 #include "cli/wizard/PlayVerb.h"
 
 namespace plotsmith::cli {
 
-/// Changes a chart in the wizard.
-class ModifyChartCommand final : public Command {
+/// Changes or copies a chart in the wizard.
+class EditChartCommand final : public Command {
  public:
-  ModifyChartCommand() : Command("modify", "Change a chart; settings without an option don't change") {}
+  /// Makes the command. `work` is kModify or kCopy.
+  EditChartCommand(const char* name, const char* description, ChartWork work)
+      : Command(name, description), work_(work) {}
   void DeclareOptions(CLI::App& verb) override;
   int Run(const GlobalOptions& options, const Streams& streams) override;
 
  private:
+  ChartWork work_;
   VerbOptions verb_;
   std::string id_;  ///< The id or the name of the chart.
   ChartOptions chart_;

@@ -9,10 +9,10 @@ class QWidget;
 namespace plotsmith::qt {
 
 /// Ignores the second press of a double click on buttons that have appeared below the pointer.
-class SecondPress final : public QObject {
+class PressAfterShow final : public QObject {
  public:
   /// Watches all buttons in `window`, which has just been shown and owns this object.
-  explicit SecondPress(QWidget& window);
+  explicit PressAfterShow(QWidget& window);
 
  protected:
   /// Discards the second press.
