@@ -39,6 +39,8 @@ PangoContext* NewContext() {
   cairo_font_options_destroy(options);
   pango_context_set_round_glyph_positions(context, FALSE);
   pango_context_set_language(context, pango_language_from_string("en"));
+  // Paragraphs of DrawingML run from left to right, and so do texts of an SVG.
+  pango_context_set_base_dir(context, PANGO_DIRECTION_LTR);
   return context;
 }
 
@@ -93,8 +95,7 @@ struct PangoTexts::State {
     Layout layout(pango_layout_new(context.get()));
     pango_layout_set_font_description(layout.get(), entry.description.get());
     pango_layout_set_single_paragraph_mode(layout.get(), TRUE);
-    // Paragraphs of DrawingML run from left to right, and so do texts of an SVG.
-    pango_layout_set_auto_dir(layout.get(), FALSE);
+    pango_layout_set_auto_dir(layout.get(), FALSE);  // The direction of the context applies.
     pango_layout_set_text(layout.get(), text.data(), static_cast<int>(text.size()));
     if (font.underline) {
       PangoAttrList* attributes = pango_attr_list_new();

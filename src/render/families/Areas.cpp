@@ -57,7 +57,7 @@ class AreaPainter {
     const SeriesModel& series = group_.series[s];
     AreaBorders borders;
     for (const std::size_t i : OrderAlong(categoryAxis_, series.values.size())) {
-      // The line between the neighbours of a point without a position isn't an edge of a stacked area.
+      // A stacked area can't leave out a point, because the areas below it have one there.
       if (!group_.IsStacked() && series.bridged.contains(i)) continue;
       const bool present = std::isfinite(extents_.to[s][i]);
       const double from = group_.IsStacked() ? pile_[i] : 0;

@@ -49,6 +49,13 @@ Edges Widest(const Edges& a, const Edges& b) {
           std::max(a.bottom, b.bottom)};
 }
 
+/// Returns true if labels that need the distances `needed` stay within `around`, up to a part of the margin.
+bool Suffices(const Edges& around, const Edges& needed) {
+  constexpr double kSlack = kEdgeMargin / 4;
+  return needed.left <= around.left + kSlack && needed.top <= around.top + kSlack &&
+         needed.right <= around.right + kSlack && needed.bottom <= around.bottom + kSlack;
+}
+
 /// Returns a rectangle enlarged to at least the minimum share of the chart, and moved so that it stays in
 /// `room`.
 Rect KeepLeast(Rect rect, const Rect& bounds, const Rect& room) {
@@ -174,6 +181,7 @@ class Layouter {
     constexpr int kMostPasses = 6;
     Edges around;
     for (int pass = 0; pass < kMostPasses; ++pass) {
+      if (pass >= kFreePasses && Suffices(around, rooms_)) return;
       around = pass < kFreePasses ? rooms_ : Widest(around, rooms_);
       const Rect before = layout_.plot;
       layout_.plot = KeepLeast(Without(layout_.outer, around), bounds_, layout_.outer);
