@@ -51,9 +51,9 @@ Edges Widest(const Edges& a, const Edges& b) {
 
 /// Returns true if labels that need the distances `needed` stay within `around`, up to a part of the margin.
 bool Suffices(const Edges& around, const Edges& needed) {
-  constexpr double kSlack = kEdgeMargin / 4;
-  return needed.left <= around.left + kSlack && needed.top <= around.top + kSlack &&
-         needed.right <= around.right + kSlack && needed.bottom <= around.bottom + kSlack;
+  constexpr double kShare = kEdgeMargin / 4;
+  return needed.left <= around.left + kShare && needed.top <= around.top + kShare &&
+         needed.right <= around.right + kShare && needed.bottom <= around.bottom + kShare;
 }
 
 /// Returns a rectangle enlarged to at least the minimum share of the chart, and moved so that it stays in
