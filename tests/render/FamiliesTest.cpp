@@ -279,7 +279,8 @@ TEST_F(FamiliesTest, AreasPassOverUnavailableValues) {
                      AxesXml("", ScalingXml("0", "10"))));
     const Rect plot = BoxOf(drawing, Role::kPlotArea);
     Numbers heights;
-    for (const PathStep& step : std::get<PathItem>(ItemsOf(drawing, Role::kArea)[0].content).path.Steps()) {
+    const auto areas = ItemsOf(drawing, Role::kArea);
+    for (const PathStep& step : std::get<PathItem>(areas[0].content).path.Steps()) {
       if (step.kind == PathStep::Kind::kClose) continue;
       heights.push_back(std::round((plot.Bottom() - step.to.y) / plot.height * 1e6) / 1e5 + 0.0);
     }
