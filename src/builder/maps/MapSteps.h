@@ -100,12 +100,12 @@ class Numbering {
   /// Gives a name the next number, even if it has one.
   std::int32_t Put(const std::string& sKey, const std::string& sName);
 
-  /// Returns True if a heading that was found in a row has no number yet. The call adds its key to the
-  /// dictionary. `sScratch` is the scratch buffer of the text.
+  /// Adds the key of a heading that was found in a row to the dictionary. Returns True if the heading has no
+  /// number yet. `sScratch` is the scratch buffer of the text.
   bool AddIfNew(std::string_view sText, const std::string& sScratch) {
     return oKnown_.Find(sText, sScratch) < 1 && IsNewKey(sText, sScratch);
   }
-  /// The upper-cased text of the last call to IsNew.
+  /// The upper-cased text of the last call to AddIfNew.
   std::string_view Key() const { return sKey_; }
   /// Gives that text the next number, under this name.
   void Number(std::string_view sName);

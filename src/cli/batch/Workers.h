@@ -31,8 +31,7 @@ struct WorkerTasks {
 int RunInWorkers(const WorkerTasks& tasks, std::size_t processes);
 
 /// Returns the number of processes that use the machine fully: two for each processor that this process may
-/// use, because a process
-/// waits about half of its time for the disk. It is one on Windows.
+/// use, because a process waits about half of its time for the disk. It is one on Windows.
 std::size_t UsualProcesses();
 
 }  // namespace plotsmith::cli

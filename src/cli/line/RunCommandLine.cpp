@@ -32,8 +32,8 @@ std::size_t VerbPosition(const std::vector<std::string>& arguments, const CLI::A
 
 /// A number format or a value can look like an option ("-0.0", "-h:mm"). Therefore arguments of the verb
 /// `format` that aren't complete option names are moved after "--". `at` is the position of the verb.
-std::vector<std::string> WithFormatsBehindTheOptions(std::vector<std::string> arguments, std::size_t at,
-                                                     const CLI::App& app) {
+std::vector<std::string> WithFormatsAfterTheOptions(std::vector<std::string> arguments, std::size_t at,
+                                                    const CLI::App& app) {
   if (at >= arguments.size() || arguments[at] != "format") return arguments;
   const CLI::App& verb = *app.get_subcommand("format");
   std::vector<std::string> options(arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(++at));
@@ -71,7 +71,7 @@ int RunCommandLine(std::vector<std::string> arguments, const Streams& streams) {
                        std::any_of(line.verbs.begin(), line.verbs.end(),
                                    [&](const CLI::App* verb) { return verb->get_name() == arguments[at]; });
     if (!known) throw line.NoSuchVerb(arguments[at]);
-    arguments = WithFormatsBehindTheOptions(std::move(arguments), at, line.app);
+    arguments = WithFormatsAfterTheOptions(std::move(arguments), at, line.app);
     int code = exit_code::kDone;
     try {
       ParseLiterally(line.app, std::move(arguments));

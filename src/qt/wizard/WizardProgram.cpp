@@ -101,10 +101,12 @@ bool WizardProgram::RunPages() {
   return session_.ChartsStarted() > chartsBefore_ || desktop_->Confirmed();
 }
 
+QString WizardProgram::TargetFile() const {
+  return TextOf(SavesToFile() ? target_.value_or(options_.book) : options_.book);
+}
+
 QString WizardProgram::Target() const {
-  return cli::IsStandardOutput(target_)
-             ? QStringLiteral("standard output")
-             : QStringLiteral("\"%1\"").arg(TextOf(target_.value_or(options_.book)));
+  return SavesToFile() ? QStringLiteral("\"%1\"").arg(TargetFile()) : QStringLiteral("standard output");
 }
 
 QString WizardProgram::Outcome() const {
@@ -154,9 +156,7 @@ std::optional<WizardProgram::Next> WizardProgram::AskBeforeClosing() {
 }
 
 std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
-  const bool hasFile = !cli::IsStandardOutput(target_);
-  QFileDialog dialog(window_.get(), QStringLiteral("Save As"),
-                     TextOf(hasFile ? target_.value_or(options_.book) : options_.book),
+  QFileDialog dialog(window_.get(), QStringLiteral("Save As"), TargetFile(),
                      QString::fromLatin1(kWorkbookFilter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // Qt would ask in its own event loop.
@@ -187,7 +187,7 @@ bool WizardProgram::MayReplace(const QString& file) {
 
 WizardProgram::Next WizardProgram::AskWhatIsNext(const QString& outcome) {
   QStringList answers = {QStringLiteral("&Close"), QStringLiteral("Chart &Wizard...")};
-  if (cli::IsStandardOutput(target_)) answers.removeLast();  // A second workbook can't follow the first one.
+  if (!SavesToFile()) answers.removeLast();  // A second workbook can't follow the first one.
   const int answer = window_->Ask(outcome, answers);
   return answer == 1 ? Next::kRunAgain : Next::kQuit;
 }
@@ -203,11 +203,9 @@ std::optional<WizardProgram::Next> WizardProgram::Save() {
   }
   isSaved_ = true;
   if (closing_) return Next::kQuit;
-  const bool hasFile = !cli::IsStandardOutput(target_);
-  if (hasFile) window_->SetBookName(QFileInfo(TextOf(target_.value_or(options_.book))).fileName());
-  return AskWhatIsNext(
-      Outcome() +
-      (hasFile ? QStringLiteral(" Saved in %1.") : QStringLiteral(" Written to %1.")).arg(Target()));
+  window_->SetBookName(QFileInfo(TargetFile()).fileName());
+  const QString saved = SavesToFile() ? QStringLiteral(" Saved in %1.") : QStringLiteral(" Written to %1.");
+  return AskWhatIsNext(Outcome() + saved.arg(Target()));
 }
 
 }  // namespace plotsmith::qt

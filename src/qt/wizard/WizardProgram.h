@@ -61,6 +61,10 @@ class WizardProgram {
   /// Saves to the target and asks what follows. Returns nothing if saving failed; the user has then been told
   /// so.
   std::optional<Next> Save();
+  /// Returns true if Save writes a file, and not to standard output.
+  bool SavesToFile() const { return !cli::IsStandardOutput(target_); }
+  /// Returns the file that Save writes; for standard output, the workbook's own file.
+  QString TargetFile() const;
   /// Returns the file that Save writes, in quotes, or "standard output".
   QString Target() const;
   /// Returns the path with the workbook's own extension if it doesn't end with one of a spreadsheet program.

@@ -114,11 +114,7 @@ void ReadGroups(ReadingContext& context, ChartModel& chart) {
   }
 }
 
-}  // namespace
-
-namespace {
-
-/// Returns true if the chart draws #N/A as a blank cell, which an extension of Excel 365 says.
+/// Returns true if the chart draws #N/A as a blank cell, which Excel 365 stores in an extension.
 bool IsUnavailableBlank(pugi::xml_node chart) {
   const auto extensions = xml::Children(xml::Child(chart, "extLst"), "ext");
   return std::any_of(extensions.begin(), extensions.end(), [](const pugi::xml_node& extension) {
