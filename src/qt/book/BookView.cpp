@@ -9,10 +9,10 @@
 #include <utility>
 
 #include "host/excel/Constants.h"
+#include "qt/Texts.h"
 #include "qt/book/Colors.h"
 #include "qt/book/SheetPage.h"
 #include "qt/book/SheetView.h"
-#include "qt/book/Texts.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/Sheet.h"
 #include "xlsx/Workbook.h"
@@ -109,7 +109,7 @@ std::vector<BookView::Tab> BookView::ListTabs() {
   for (const auto& entry : host_->Book().AllSheets()) {
     const std::int32_t visible = entry->object->Visible();
     if (visible == excel::xlSheetVeryHidden) continue;
-    Tab tab{entry, ToQString(entry->name), visible == excel::xlSheetHidden, nullptr, 0};
+    Tab tab{entry, qt::TextOf(entry->name), visible == excel::xlSheetHidden, nullptr, 0};
     for (const Tab& known : list_) {
       if (known.sheet.lock() != entry) continue;
       tab.page = known.page;
@@ -272,7 +272,7 @@ void BookView::ShowActiveCell() {
     return;
   }
   const xlsx::CellPlace cell = sheet->ActiveCell();
-  address_->setText(ToQString(xlsx::CellAddress(cell.row, cell.column)));
+  address_->setText(qt::TextOf(xlsx::CellAddress(cell.row, cell.column)));
   content_->setText(sheet->ActiveText().simplified());
 }
 

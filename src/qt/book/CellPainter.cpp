@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "qt/Texts.h"
 #include "qt/book/Colors.h"
-#include "qt/book/Texts.h"
 
 namespace plotsmith::qtbook {
 namespace {
@@ -37,7 +37,7 @@ CellPainter::CellPainter(SheetSource& source, const QPalette& palette, double sc
 QFont CellPainter::NormalFont() const { return FontOf(source_.LookOf(0)); }
 
 QFont CellPainter::FontOf(const xlsx::CellLook& look) const {
-  QFont font(ToQString(look.font));
+  QFont font(qt::TextOf(look.font));
   font.setPixelSize(
       std::max(1, static_cast<int>(std::floor(look.size * kPixelsPerPoint * scale_ * shrink_ + 0.01))));
   font.setBold(look.bold);
@@ -77,16 +77,16 @@ int CellPainter::IndentOf(const CellContents& cell) {
 }
 
 int CellPainter::WidthOf(const CellContents& cell) {
-  return FaceOf(cell.style).metrics.horizontalAdvance(ToQString(cell.text)) + IndentOf(cell) + 2 * Padding() +
-         1;
+  return FaceOf(cell.style).metrics.horizontalAdvance(qt::TextOf(cell.text)) + IndentOf(cell) +
+         2 * Padding() + 1;
 }
 
 QString CellPainter::FittedText(const CellContents& cell, int width) {
-  if (!cell.IsNumber()) return ToQString(cell.text);
+  if (!cell.IsNumber()) return qt::TextOf(cell.text);
   const QFontMetrics& metrics = FaceOf(cell.style).metrics;
   const int room = width - IndentOf(cell) - Padding() - 1;
-  const auto widthOf = [&](std::string_view text) { return metrics.horizontalAdvance(ToQString(text)); };
-  return ToQString(xlsx::FittedNumber(cell, room, widthOf));
+  const auto widthOf = [&](std::string_view text) { return metrics.horizontalAdvance(qt::TextOf(text)); };
+  return qt::TextOf(xlsx::FittedNumber(cell, room, widthOf));
 }
 
 void CellPainter::Paint(QPainter& painter, const CellContents& cell, const QRect& area) {

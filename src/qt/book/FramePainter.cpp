@@ -7,9 +7,9 @@
 
 #include "host/excel/ChartTitle.h"
 #include "host/excel/Constants.h"
+#include "qt/Texts.h"
 #include "qt/book/ChartTypeNames.h"
 #include "qt/book/Colors.h"
-#include "qt/book/Texts.h"
 #include "runtime/RuntimeError.h"
 
 namespace plotsmith::qtbook {
@@ -65,7 +65,7 @@ ChartCaption CaptionOf(const ShownFrame& frame) {
     const excel::Ref<excel::Chart> chart = frame.chart();
     if (!chart) return caption;
     if (chart->HasTitle()) {
-      const QString title = ToQString(chart->ChartTitle()->Text()).trimmed();
+      const QString title = qt::TextOf(chart->ChartTitle()->Text()).trimmed();
       if (!title.isEmpty()) caption.title = title;
     }
     caption.type = ChartTypeName(chart->ChartType());

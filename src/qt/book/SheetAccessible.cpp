@@ -3,8 +3,8 @@
 #include <QtGui/QAccessible>
 #include <QtWidgets/QAccessibleWidget>
 
+#include "qt/Texts.h"
 #include "qt/book/SheetView.h"
-#include "qt/book/Texts.h"
 
 namespace plotsmith::qtbook {
 namespace {
@@ -17,7 +17,7 @@ class SheetAccessible final : public QAccessibleWidget {
   QString text(QAccessible::Text kind) const override {
     if (kind != QAccessible::Value) return QAccessibleWidget::text(kind);
     const xlsx::CellPlace cell = view_->ActiveCell();
-    const QString address = ToQString(xlsx::CellAddress(cell.row, cell.column));
+    const QString address = qt::TextOf(xlsx::CellAddress(cell.row, cell.column));
     const QString shown = view_->ActiveText();
     return shown.isEmpty() ? address : address + QStringLiteral(": ") + shown;
   }

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "host/excel/Constants.h"
-#include "qt/book/Texts.h"
+#include "qt/Texts.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Strings.h"
 #include "xlsx/Sheet.h"
@@ -22,10 +22,10 @@ ShownFrame FrameOf(const std::shared_ptr<xlsx::SheetShape>& shape) {
   frame.place = QRectF(place.left, place.top, place.width, place.height);
   frame.isChart = shape->Type() == excel::msoChart;
   frame.alternativeText = shape->AlternativeText();
-  frame.label = ToQString(shape->Name());
+  frame.label = qt::TextOf(shape->Name());
   if (shape->Type() == excel::msoTextBox) {
     const std::string text = runtime::ToUtf8(shape->Text());
-    if (!text.empty()) frame.label = ToQString(text);
+    if (!text.empty()) frame.label = qt::TextOf(text);
   }
   frame.chart = [chart = frame.isChart, weak = std::weak_ptr(shape)]() -> excel::Ref<excel::Chart> {
     const auto held = chart ? weak.lock() : nullptr;

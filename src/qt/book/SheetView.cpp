@@ -9,8 +9,8 @@
 #include <cmath>
 #include <utility>
 
+#include "qt/Texts.h"
 #include "qt/book/SheetAccessible.h"
-#include "qt/book/Texts.h"
 #include "runtime/RuntimeError.h"
 #include "xlsx/base/Limits.h"
 
@@ -51,7 +51,7 @@ SheetView::SheetView(xlsx::Workbook& book, std::weak_ptr<xlsx::SheetEntry> sheet
 }
 
 void SheetView::ShowFailure(const runtime::RuntimeError& error) {
-  unreadable_ = ToQString(error.Description());
+  unreadable_ = qt::TextOf(error.Description());
   viewport()->update();
 }
 
@@ -214,7 +214,7 @@ void SheetView::SetActiveCell(const CellPlace& cell) {
 
 QString SheetView::ActiveText() {
   QString text;
-  Guarded([&] { text = ToQString(source_.CellAt(activeCell_.row, activeCell_.column).text); });
+  Guarded([&] { text = qt::TextOf(source_.CellAt(activeCell_.row, activeCell_.column).text); });
   return text;
 }
 

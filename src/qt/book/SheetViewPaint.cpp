@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "qt/Texts.h"
 #include "qt/book/Colors.h"
 #include "qt/book/SheetView.h"
-#include "qt/book/Texts.h"
 #include "xlsx/base/Limits.h"
 
 namespace plotsmith::qtbook {
@@ -287,7 +287,7 @@ void SheetView::PaintHeads(QPainter& painter) {
     painter.setClipRect(QRect(pane.area.left(), 0, pane.area.width(), headHeight_));
     for (const Line& column : Columns().LinesBetween(place.left(), place.right() + 1)) {
       const QRect area(pane.origin.x() + column.edge, 0, column.size, headHeight_);
-      PaintHead(painter, area, ToQString(xlsx::ColumnLetters(column.number)),
+      PaintHead(painter, area, qt::TextOf(xlsx::ColumnLetters(column.number)),
                 column.number == activeCell_.column);
     }
     painter.setClipRect(QRect(0, pane.area.top(), headWidth_, pane.area.height()));

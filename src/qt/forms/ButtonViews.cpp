@@ -1,5 +1,7 @@
 #include "qt/forms/ButtonViews.h"
 
+#include "qt/Texts.h"
+
 namespace plotsmith::qt {
 
 CommandButtonView::CommandButtonView(forms::CommandButton& model, QWidget* parent, const Post& post)

@@ -10,6 +10,7 @@
 #include "forms/Plain.h"
 #include "forms/TextBox.h"
 #include "forms/VSFlexGrid.h"
+#include "qt/Texts.h"
 #include "qt/forms/ButtonViews.h"
 #include "qt/forms/GridView.h"
 #include "qt/forms/ListViews.h"

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QtCore/QString>
 #include <QtWidgets/QWidget>
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <string_view>
 
 #include "forms/Control.h"
 #include "forms/PendingGestures.h"
@@ -15,14 +13,6 @@
 namespace plotsmith::qt {
 
 using forms::Post;
-
-/// Convert between the UTF-8 texts of the model and Qt's strings.
-///@{
-inline QString TextOf(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-inline std::string TextOf(const QString& text) { return text.toStdString(); }
-///@}
 
 /// The view of a control. The object name of its widget is the control's full name. The parent of the widget
 /// owns it.

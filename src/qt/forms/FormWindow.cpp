@@ -13,6 +13,7 @@
 #include <QtWidgets/QVBoxLayout>
 #include <utility>
 
+#include "qt/Texts.h"
 #include "qt/forms/HeldKeys.h"
 #include "qt/forms/LayoutBuilder.h"
 

@@ -6,6 +6,7 @@
 #include <numeric>
 #include <vector>
 
+#include "qt/Texts.h"
 #include "qt/forms/FirstRow.h"
 
 namespace plotsmith::qt {

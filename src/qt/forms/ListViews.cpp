@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "qt/Texts.h"
 #include "qt/forms/FirstRow.h"
 #include "qt/forms/TextViews.h"
 

@@ -4,6 +4,7 @@
 #include <QtWidgets/QStylePainter>
 
 #include "pages/SamplePictures.h"
+#include "qt/Texts.h"
 #include "qt/forms/PicturePainter.h"
 
 namespace plotsmith::qt {

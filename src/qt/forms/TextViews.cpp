@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "qt/Texts.h"
+
 namespace plotsmith::qt {
 namespace {
 

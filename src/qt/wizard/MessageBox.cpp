@@ -1,6 +1,7 @@
 #include "qt/wizard/MessageBox.h"
 
 #include "common/PSConstants.h"
+#include "qt/Texts.h"
 #include "qt/forms/ControlView.h"
 #include "qt/wizard/EventLoop.h"
 

@@ -8,6 +8,7 @@
 #include <array>
 #include <utility>
 
+#include "qt/Texts.h"
 #include "qt/forms/ControlView.h"
 
 namespace plotsmith::qt {

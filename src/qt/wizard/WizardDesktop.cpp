@@ -6,6 +6,7 @@
 
 #include "common/App.h"
 #include "forms/TextBox.h"
+#include "qt/Texts.h"
 #include "qt/help/HelpWindow.h"
 #include "qt/wizard/MessageBox.h"
 

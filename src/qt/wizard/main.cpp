@@ -6,6 +6,7 @@
 
 #include "cli/LiteralArguments.h"
 #include "cli/NumberOptions.h"
+#include "qt/Texts.h"
 #include "qt/wizard/EventLoop.h"
 #include "qt/wizard/WizardProgram.h"
 

@@ -13,6 +13,8 @@
 #include <QtWidgets/QTableWidget>
 #include <stdexcept>
 
+#include "qt/Texts.h"
+
 namespace plotsmith::test {
 namespace {
 

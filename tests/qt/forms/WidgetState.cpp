@@ -10,6 +10,7 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableWidget>
 
+#include "qt/Texts.h"
 #include "tests/support/StateDifferences.h"
 
 namespace plotsmith::test {

@@ -6,6 +6,7 @@
 
 #include "forms/script/Gestures.h"
 #include "forms/script/ScriptError.h"
+#include "qt/Texts.h"
 #include "tests/qt/support/Windows.h"
 
 namespace plotsmith::test {

@@ -5,6 +5,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 
+#include "qt/Texts.h"
 #include "qt/wizard/WizardWindow.h"
 
 namespace plotsmith::test {

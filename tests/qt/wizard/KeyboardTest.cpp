@@ -10,6 +10,7 @@
 #include <set>
 
 #include "forms/script/FormState.h"
+#include "qt/Texts.h"
 #include "tests/qt/support/Windows.h"
 #include "tests/qt/wizard/ProgramTest.h"
 #include "tests/support/Files.h"

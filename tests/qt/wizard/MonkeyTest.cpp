@@ -6,6 +6,7 @@
 #include <fstream>
 #include <random>
 
+#include "qt/Texts.h"
 #include "qt/help/HelpWindow.h"
 #include "tests/qt/forms/WidgetState.h"
 #include "tests/qt/support/Windows.h"

@@ -4,6 +4,7 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QPushButton>
 
+#include "qt/Texts.h"
 #include "runtime/Strings.h"
 #include "tests/qt/forms/WidgetState.h"
 #include "tests/qt/support/Windows.h"
