@@ -10,6 +10,9 @@ namespace {
 
 bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
+/// Returns true for the second and later bytes of a character.
+bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
 bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return IsAscii(c); });
 }
@@ -28,12 +31,44 @@ char32_t UpperCase(char32_t c) {
   return returns && c != kSharpS ? static_cast<char32_t>(upper) : c;
 }
 
+/// Returns true for ideographs, syllables, emoji and other characters that are as wide as they are high.
+bool IsWide(char32_t c) { return utf8proc_charwidth(static_cast<utf8proc_int32_t>(c)) == 2; }
+
+/// Returns true if a line may break between two neighbouring characters of a text without blanks. This is the
+/// part of the Unicode line breaking algorithm (UAX #14) that East Asian texts need.
+bool MayBreakBetween(char32_t before, char32_t after) {
+  constexpr char32_t kFirstWide = 0x1100;
+  if (std::max(before, after) < kFirstWide || (!IsWide(before) && !IsWide(after))) return false;
+  const auto categoryOf = [](char32_t c) { return utf8proc_category(static_cast<utf8proc_int32_t>(c)); };
+  switch (categoryOf(before)) {
+    case UTF8PROC_CATEGORY_PS:
+    case UTF8PROC_CATEGORY_PI:
+    case UTF8PROC_CATEGORY_CF:  // joiners
+      return false;
+    default:
+      break;
+  }
+  switch (categoryOf(after)) {
+    case UTF8PROC_CATEGORY_PE:
+    case UTF8PROC_CATEGORY_PF:
+    case UTF8PROC_CATEGORY_PO:
+    case UTF8PROC_CATEGORY_LM:  // marks of repetition and of long sounds
+    case UTF8PROC_CATEGORY_SK:  // colours of skin
+    case UTF8PROC_CATEGORY_MN:
+    case UTF8PROC_CATEGORY_ME:
+    case UTF8PROC_CATEGORY_CF:
+      return false;
+    default:
+      return true;
+  }
+}
+
 }  // namespace
 
 char32_t NextCharacter(std::string_view text, std::size_t& position) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const unsigned char first = byte(position);
-  const auto continuation = [&](std::size_t i) { return i < text.size() && (byte(i) & 0xC0) == 0x80; };
+  const auto continuation = [&](std::size_t i) { return i < text.size() && IsContinuation(text[i]); };
   if (first < 0x80) {
     position += 1;
     return first;
@@ -62,6 +97,30 @@ char32_t NextCharacter(std::string_view text, std::size_t& position) {
   }
   position += 1;
   return 0xFFFD;
+}
+
+std::size_t CharacterStart(std::string_view text, std::size_t position) {
+  while (position > 0 && position < text.size() && IsContinuation(text[position])) --position;
+  return position;
+}
+
+std::size_t CharacterEnd(std::string_view text, std::size_t position) {
+  do ++position;
+  while (position < text.size() && IsContinuation(text[position]));
+  return position;
+}
+
+std::size_t WordEnd(std::string_view text, std::size_t begin) {
+  const std::string_view word = text.substr(0, text.find(' ', begin));
+  std::size_t at = begin;
+  for (char32_t before = 0; at < word.size();) {
+    std::size_t next = at;
+    const char32_t character = NextCharacter(word, next);
+    if (at > begin && MayBreakBetween(before, character)) break;
+    before = character;
+    at = next;
+  }
+  return at;
 }
 
 void AppendUtf8(std::string& text, char32_t c) {

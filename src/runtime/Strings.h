@@ -38,6 +38,15 @@ std::string ToUtf8(std::u16string_view text);
 /// Reads one character and moves the position to the next one. Each byte of invalid UTF-8 gives U+FFFD;
 /// halves of surrogate pairs are kept.
 char32_t NextCharacter(std::string_view text, std::size_t& position);
+/// Return the first byte of the character that contains the byte at `position`, and the byte behind it. The
+/// text is valid UTF-8.
+///@{
+std::size_t CharacterStart(std::string_view text, std::size_t position);
+std::size_t CharacterEnd(std::string_view text, std::size_t position);
+///@}
+/// Returns the end of the word that begins at a byte; lines may break there. A word ends at a blank. It also
+/// ends beside a wide East Asian character, except before closing and after opening punctuation.
+std::size_t WordEnd(std::string_view text, std::size_t begin);
 /// Returns true if the character is a letter in any script.
 bool IsLetter(char32_t character);
 /// Appends a character as UTF-8. Halves of surrogate pairs are kept.

@@ -119,6 +119,7 @@ TEST(CellLinesTest, TextsWrapAtBlanksAndInsideOfLongWords) {
       {"abcdefgh ij", 3, {"abc", "def", "gh", "ij"}},
       {"\xC3\xA4\xC3\xB6\xC3\xBC", 2, {"\xC3\xA4", "\xC3\xB6", "\xC3\xBC"}},
       {"ab", 0, {"a", "b"}},
+      {"in 東京都", 7, {"in 東", "京都"}},
   };
   for (const auto& c : cases) EXPECT_EQ(WrappedLines(c.text, c.width, CountedWidth), c.lines) << c.text;
 }

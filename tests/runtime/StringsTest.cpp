@@ -78,6 +78,36 @@ TEST(StringsTest, AnyBytesAreReadAsCharacters) {
   }
 }
 
+TEST(StringsTest, WordsEndAtBlanksAndBetweenEastAsianCharacters) {
+  const std::pair<const char*, std::vector<std::string>> cases[] = {
+      {"", {}},
+      {"one, two/three", {"one,", "two/three"}},
+      {"naïve Ärger", {"naïve", "Ärger"}},
+      {"東京都 年", {"東", "京", "都", "年"}},
+      {"2024年度abc", {"2024", "年", "度", "abc"}},
+      {"「東京」、カー", {"「東", "京」、", "カー"}},
+      {"한국", {"한", "국"}},
+      {"👨‍👩👍🏽x", {"👨‍👩", "👍🏽", "x"}},
+  };
+  for (const auto& [text, words] : cases) {
+    std::vector<std::string> found;
+    const std::string_view rest = text;
+    for (std::size_t at = 0; (at = rest.find_first_not_of(' ', at)) < rest.size();) {
+      const std::size_t end = WordEnd(rest, at);
+      found.emplace_back(rest.substr(at, end - at));
+      at = end;
+    }
+    EXPECT_EQ(found, words) << text;
+  }
+}
+
+TEST(StringsTest, PositionsInsideOfCharactersAreRecognized) {
+  constexpr std::string_view text = "aä東";
+  const std::size_t starts[] = {0, 1, 1, 3, 3, 3, 6}, ends[] = {1, 3, 3, 6, 6, 6};
+  for (std::size_t i = 0; i <= text.size(); ++i) EXPECT_EQ(CharacterStart(text, i), starts[i]) << i;
+  for (std::size_t i = 0; i < text.size(); ++i) EXPECT_EQ(CharacterEnd(text, i), ends[i]) << i;
+}
+
 TEST(StringsTest, PairsOfUnitsAreOneCharacter) {
   const struct {
     std::u16string units;

@@ -28,12 +28,7 @@ std::string Safe(std::string_view text) {
       name += '-';
     }
   }
-  if (name.size() > kLongest) {
-    std::size_t end = kLongest;
-    while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0) == 0x80)
-      --end;  // Don't cut inside a character.
-    name.resize(end);
-  }
+  if (name.size() > kLongest) name.resize(runtime::CharacterStart(name, kLongest));
   while (!name.empty() && (name.back() == '-' || name.back() == '.')) name.pop_back();
   // A name that begins with a dot is hidden, and a name that begins with a dash looks like an option.
   name.erase(0, name.find_first_not_of(".-"));

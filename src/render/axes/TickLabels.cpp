@@ -7,6 +7,7 @@
 #include "render/axes/CategoryLevels.h"
 #include "render/axes/DateAxis.h"
 #include "render/model/AxisScaling.h"
+#include "runtime/Strings.h"
 
 namespace plotsmith::render {
 namespace {
@@ -141,7 +142,7 @@ void Shorten(TextBlock& block, double most, const TextMeasure& measure) {
       high = middle - 1;
     }
   }
-  while (low > 0 && (static_cast<unsigned char>(run.text[low]) & 0xC0) == 0x80) --low;
+  low = runtime::CharacterStart(run.text, low);
   const TextStyle style{run.font, run.color, block.rotation, false};
   block = LayOut(run.text.substr(0, low) + kDots, style, measure);
 }

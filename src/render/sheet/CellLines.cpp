@@ -3,20 +3,16 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "runtime/Strings.h"
+
 namespace plotsmith::render {
 namespace {
 
-/// Returns the end of the character that begins at a byte.
-std::size_t CharacterEnd(std::string_view text, std::size_t at) {
-  for (++at; at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;) ++at;
-  return at;
-}
-
 /// Returns how many bytes of a word fit. They are whole characters, and at least one.
 std::size_t FittingPart(std::string_view word, double width, const WidthOf& widthOf) {
-  std::size_t end = CharacterEnd(word, 0);
+  std::size_t end = runtime::CharacterEnd(word, 0);
   while (end < word.size()) {
-    const std::size_t next = CharacterEnd(word, end);
+    const std::size_t next = runtime::CharacterEnd(word, end);
     if (widthOf(word.substr(0, next)) > width) break;
     end = next;
   }
@@ -31,7 +27,7 @@ void WrapParagraph(std::string_view text, double width, const WidthOf& widthOf,
   while (!text.empty()) {
     // The piece is a word with the spaces before it.
     const std::size_t begin = std::min(text.find_first_not_of(' '), text.size());
-    const std::size_t end = std::min(text.find(' ', begin), text.size());
+    const std::size_t end = runtime::WordEnd(text, begin);
     const std::string longer = line + std::string(text.substr(0, end));
     if (widthOf(longer) <= width) {
       line = longer;

@@ -22,9 +22,8 @@ std::vector<Word> WordsOf(const std::vector<TextRun>& runs, const TextMeasure& m
   std::vector<Word> words;
   for (const TextRun& run : runs) {
     for (std::size_t from = 0; from < run.text.size();) {
-      std::size_t end = run.text.find(' ', from);
-      end = end == std::string::npos ? run.text.size() : run.text.find_first_not_of(' ', end);
-      if (end == std::string::npos) end = run.text.size();
+      const std::size_t end =
+          std::min(run.text.find_first_not_of(' ', runtime::WordEnd(run.text, from)), run.text.size());
       Word& word = words.emplace_back();
       word.run = {run.text.substr(from, end - from), run.font, run.color};
       word.width = measure.Measure(word.run.text, run.font).width;
@@ -70,8 +69,7 @@ TextLine Finished(std::vector<TextRun> runs, const TextMeasure& measure) {
 std::size_t FittingBytes(std::string_view text, const Font& font, double width, const TextMeasure& measure) {
   std::size_t fitting = 0;
   while (fitting < text.size()) {
-    std::size_t end = fitting + 1;
-    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) ++end;
+    const std::size_t end = runtime::CharacterEnd(text, fitting);
     width -= measure.Measure(text.substr(fitting, end - fitting), font).width;
     if (width < 0 && fitting > 0) break;
     fitting = end;
@@ -124,8 +122,7 @@ RichText Stacked(const RichText& text) {
   for (const auto& runs : text.paragraphs) {
     for (const TextRun& run : runs) {
       for (std::size_t from = 0; from < run.text.size() && stacked.paragraphs.size() < kMostLines;) {
-        std::size_t end = from + 1;
-        while (end < run.text.size() && (static_cast<unsigned char>(run.text[end]) & 0xC0) == 0x80) ++end;
+        const std::size_t end = runtime::CharacterEnd(run.text, from);
         stacked.paragraphs.push_back({{run.text.substr(from, end - from), run.font, run.color}});
         from = end;
       }
@@ -165,10 +162,11 @@ TextBlock LayOut(const std::string& text, const TextStyle& style, const TextMeas
 
 double WidestWord(std::string_view text, const Font& font, const TextMeasure& measure) {
   double widest = 0;
-  for (std::size_t from = 0; from <= text.size();) {
-    const std::size_t end = std::min(text.find_first_of(" \n", from), text.size());
-    widest = std::max(widest, measure.Measure(text.substr(from, end - from), font).width);
-    from = end + 1;
+  for (std::size_t from = 0; (from = text.find_first_not_of(" \n", from)) < text.size();) {
+    const std::string_view line = text.substr(0, text.find('\n', from));
+    const std::size_t end = runtime::WordEnd(line, from);
+    widest = std::max(widest, measure.Measure(line.substr(from, end - from), font).width);
+    from = end;
   }
   return widest;
 }

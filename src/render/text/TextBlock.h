@@ -42,8 +42,8 @@ struct TextBlock {
   bool IsEmpty() const { return lines.empty(); }
 };
 
-/// Breaks a text into lines that aren't wider than `width`, in points. Lines break at spaces, and inside
-/// words that are wider than a line.
+/// Breaks a text into lines that aren't wider than `width`, in points. Lines break at spaces,
+/// between East Asian characters, and inside words that are wider than a line.
 TextBlock LayOut(RichText text, const TextMeasure& measure, double width = kUnlimited);
 /// Breaks a text in one style into lines, in the same way. Line feeds break lines, too.
 TextBlock LayOut(const std::string& text, const TextStyle& style, const TextMeasure& measure,

@@ -39,6 +39,7 @@ TEST(TextBlockTest, LinesBreakAtBlanksAndInsideOfLongWords) {
       {"abc", 0.5, {"a", "b", "c"}},
       {"\u00C4\u00D6\u00DC", 2, {"\u00C4\u00D6", "\u00DC"}},
       {"one\ntwo three", 7, {"one", "two", "three"}},
+      {"in 東京都庁前", 6, {"in 東京都", "庁前"}},
       {"one\n\ntwo", 100, {"one", "", "two"}},
       {"", 7, {""}},
       {"   ", 2, {""}},
@@ -114,8 +115,8 @@ TEST(TextBlockTest, TurnedBlocksAreAsLargeAsTheBoxAroundThem) {
 }
 
 TEST(TextBlockTest, TheWidestWordIsMeasuredWithoutBlanks) {
-  const std::pair<const char*, double> cases[] = {
-      {"bbb aa", 3}, {"a\nbbbb cc", 4}, {"a bb ccc", 3}, {"", 0}, {"a ", 1}};
+  const std::pair<const char*, double> cases[] = {{"bbb aa", 3}, {"a\nbbbb cc", 4}, {"a bb ccc", 3},
+                                                  {"", 0},       {"a ", 1},         {"東京 ab", 2}};
   for (const auto& [text, width] : cases)
     EXPECT_EQ(WidestWord(text, kSmall.font, EvenMeasure()), width) << text;
 }
