@@ -31,7 +31,8 @@ TaskQueue::Order OrderFor(const PicturePlan& plan) {
 }
 
 /// Writes a file. An existing file is overwritten in place and not emptied first. If it were emptied, file
-/// systems such as ext4 would write it to the disk when it is closed, which takes longer than drawing.
+/// systems such as ext4 would write it to the disk when it is closed, which takes longer than drawing. If the
+/// disk gets full, the damaged file is removed.
 void WriteFile(const std::string& name, const std::string& bytes) {
   const fs::path path = runtime::PathOf(name);
   std::error_code noFile, error;
@@ -39,10 +40,12 @@ void WriteFile(const std::string& name, const std::string& bytes) {
   const bool isThere = !noFile;
   const auto mode = std::ios::binary | std::ios::out;
   std::fstream file(path, isThere ? mode | std::ios::in : mode);
+  const bool isOpen = file.is_open();
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   if (!file) {
     error.assign(errno != 0 ? errno : EIO, std::generic_category());
+    if (isOpen && fs::is_regular_file(path, noFile)) fs::remove(path, noFile);
   } else if (isThere && formerSize > bytes.size()) {
     fs::resize_file(path, bytes.size(), error);
   }

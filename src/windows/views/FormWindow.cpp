@@ -61,6 +61,8 @@ void FormWindow::GiveUpActivation() {
 FormWindow::~FormWindow() {
   disabledWindows_.reset();
   form_.hWnd = 0;
+  // Messages that arrive from here on don't find the page or the views any more.
+  if (window_ != nullptr) SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
   page_.reset();
   views_.reset();
   if (window_ == nullptr) return;
