@@ -23,7 +23,11 @@ CLI::Option* DeclareNumber(CLI::App& app, const std::string& name, std::function
 
 void DeclareHostVersion(CLI::App& app, double& version) {
   DeclareNumber(
-      app, "--host-version", [&version](double number) { version = number; },
+      app, "--host-version",
+      [&version](double number) {
+        if (number <= 0) throw CLI::ValidationError("--host-version needs a number above 0");
+        version = number;
+      },
       "Behave like Plotsmith in this version of Excel; versions up to 11 and later ones differ")
       ->type_name("NUMBER")
       ->default_str(runtime::NumberText(version));

@@ -149,7 +149,7 @@ void Session::CheckFree(const std::string& target) const {
                                              "\" says so); close it there, or use --force.");
   }
   try {
-    Book().CheckName(target);
+    Book().CheckTarget(target);
   } catch (const xlsx::PackageError& e) {
     throw CantSave(target, e.what());
   }

@@ -136,8 +136,13 @@ bool Workbook::Changed() const {
          sheets_.Changed() || charts_.Changed();
 }
 
+void Workbook::CheckTarget(const std::string& path) const {
+  format_.Check(Package(), path);
+  Package().CheckUnchanged(path);
+}
+
 void Workbook::Save(const std::string& path) {
-  CheckName(path);
+  CheckTarget(path);
   WriteModels();
   const WorkbookKind* const kind = format_.OtherKind(path);
   if (kind == nullptr) return Package().Save(path);

@@ -48,8 +48,9 @@ class Workbook final : public excel::Workbook,
   void Save(const std::string& path);
   /// Saves to a stream. The workbook is complete before the stream gets its first byte.
   void Save(std::ostream& out);
-  /// Throws a PackageError if the workbook can't be saved in the format of the extension.
-  void CheckName(const std::string& path) const { format_.Check(Package(), path); }
+  /// Throws a PackageError if the workbook can't be saved in the format of the extension, or if another
+  /// program has changed the file since it was read or saved.
+  void CheckTarget(const std::string& path) const;
 
   /// The sheets and their tabs.
   SheetList& Tabs() { return sheets_; }

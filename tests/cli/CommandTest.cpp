@@ -160,7 +160,8 @@ TEST_F(CommandTest, WrongUsageHasExitCode2) {
                                    {"refresh", book, "--table", "Nowhere"},
                                    {"refresh", book, "-o", ""},
                                    {"save", book, "-o", ""},
-                                   {"refresh", book, "--host-version", "old"}}) {
+                                   {"refresh", book, "--host-version", "old"},
+                                   {"refresh", book, "--host-version", "0"}}) {
     const CommandResult result = RunCommand(arguments);
     EXPECT_EQ(result.code, 2);
     EXPECT_TRUE(result.err.starts_with("plotsmith: ")) << result.err;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "controller/CPlotsmithController.h"
+#include "qt/Texts.h"
 #include "qt/book/BookView.h"
 #include "qt/help/HelpWindow.h"
 #include "qt/wizard/ChartPicture.h"
@@ -164,7 +165,7 @@ std::optional<WizardProgram::Next> WizardProgram::SaveAs() {
   do {
     if (RunDialog(dialog) != QDialog::Accepted) return std::nullopt;
     file = WithExtension(dialog.selectedFiles().front());
-  } while (!MayReplace(file));
+  } while (!MaySaveTo(file));
   const auto before = std::exchange(target_, TextOf(file));
   const auto next = Save();
   if (!next) target_ = before;
@@ -178,7 +179,13 @@ QString WizardProgram::WithExtension(const QString& file) const {
   return file + TextOf(xlsx::ExtensionOf(options_.book));
 }
 
-bool WizardProgram::MayReplace(const QString& file) {
+bool WizardProgram::MaySaveTo(const QString& file) {
+  try {
+    session_.CheckWritable(TextOf(file));
+  } catch (const cli::CommandError& e) {
+    ReportError(window_.get(), e.what(), streams_);
+    return false;
+  }
   return !QFileInfo::exists(file) ||
          ShowMessageBox(window_.get(), QMessageBox::Question,
                         QStringLiteral("\"%1\" already exists. Replace it?").arg(file),

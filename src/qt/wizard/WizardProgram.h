@@ -54,8 +54,8 @@ class WizardProgram {
   std::optional<Next> AskBeforeClosing();
   /// Saves to a file that the user chooses. Later saves use this file.
   std::optional<Next> SaveAs();
-  /// Asks the user whether to replace an existing file.
-  bool MayReplace(const QString& file);
+  /// Returns true if the file can be written. If it exists, asks the user whether to replace it.
+  bool MaySaveTo(const QString& file);
   /// Shows the result of a run, and asks whether to run again.
   Next AskWhatIsNext(const QString& outcome);
   /// Saves to the target and asks what follows. Returns nothing if saving failed; the user has then been told

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <new>
 #include <set>
 #include <utility>
 
@@ -411,6 +412,14 @@ std::vector<std::string> Package::RemoveRelationship(std::string_view source, st
   return {gone.begin(), gone.end()};
 }
 
+void Package::CheckUnchanged(const std::string& path) const {
+  if (archive_ && IsSameFile(archive_->Path(), path)) {
+    if (archive_->FileHasChanged()) throw PackageError("another program has changed it since it was read");
+  } else if (copy_ && IsSameFile(copy_->path, path) && FileStamp::Of(path) != copy_->stamp) {
+    throw PackageError("another program has changed it since it was saved");
+  }
+}
+
 void Package::Save(const std::string& path) {
   AtomicFile file(path);
   Write(file.Descriptor());
@@ -422,19 +431,20 @@ void Package::Save(const std::string& path) {
 /// open file. If the package is saved over its own file, it therefore closes that file and continues with the
 /// new one, which has the parts in their present order.
 void Package::Commit(AtomicFile& file, const std::string& path) {
+  file.LockTarget();
+  CheckUnchanged(path);
   if (!archive_ || !IsSameFile(archive_->Path(), path)) {
-    if (copy_ && IsSameFile(copy_->path, path)) {
-      file.LockTarget();
-      if (FileStamp::Of(path) != copy_->stamp) {
-        throw PackageError("another program has changed it since it was saved");
-      }
-    }
+    Copy copy{path, std::nullopt};
     file.Commit();
-    copy_ = {path, FileStamp::Of(path)};
+    copy_.reset();
+    try {
+      copy.stamp = FileStamp::Of(path);
+      copy_ = std::move(copy);
+    } catch (const std::bad_alloc&) {
+      // The copy is saved. Without its stamp, the next save doesn't notice a change by another program.
+    }
     return;
   }
-  file.LockTarget();
-  if (archive_->FileHasChanged()) throw PackageError("another program has changed it since it was read");
   archive_->Close();
   try {
     file.Commit();

@@ -78,9 +78,12 @@ class Package {
 
   /// Returns true if the package was changed since it was opened.
   bool Changed() const { return changed_; }
+  /// Throws a PackageError if the path is the package's own file, or the last one that it was saved to, and
+  /// another program has changed that file since.
+  void CheckUnchanged(const std::string& path) const;
   /// Writes the package to a new file, which then replaces `path` in one step. At any moment, `path` is a
   /// complete file. The file keeps its permissions; if `path` is a link, its target is replaced. Throws a
-  /// PackageError if another program has changed the file since it was opened or last saved by this object.
+  /// PackageError in the same cases as CheckUnchanged, and if the file can't be written.
   void Save(const std::string& path);
   /// Writes the package to a stream. The package is complete before the stream gets its first byte.
   void Save(std::ostream& out);

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "qt/Texts.h"
 #include "runtime/Strings.h"
 #include "tests/qt/support/Windows.h"
 #include "tests/qt/wizard/ProgramTest.h"
@@ -207,6 +208,23 @@ TEST_F(WizardProgramTest, EachSaveHasTheContentTypeOfItsExtension) {
   EXPECT_EQ(typeOf(folder_ / "Report 23.11.2026.xlsx"), stem + "sheet.main+xml");
   EXPECT_EQ(typeOf(book_), stem + "sheet.main+xml");
   EXPECT_FALSE(std::filesystem::exists(S(folder_ / "Report 23.11.2026")));
+}
+
+TEST_F(WizardProgramTest, AFileOfAnotherProgramIsNotOfferedForReplacement) {
+  S changed;
+  const auto change = [&] {
+    std::ofstream(book_, std::ios::app | std::ios::binary) << "more";
+    changed = BytesOf(book_);
+  };
+  const auto run = Run(S(kNewChart) + "press cmdFinish; button Save; do change; bar Save As; file " + book_ +
+                           "; box OK; do escape; bar Discard",
+                       {{"change", change}, {"escape", [] { test::FrontWindow()->close(); }}});
+  const S unsaved = "The chart is built. \"" + book_ + "\" isn't saved yet.";
+  EXPECT_EQ(run.told,
+            (std::vector<S>{unsaved,
+                            "Can't save \"" + book_ + "\": another program has changed it since it was read; nothing was changed.",
+                            unsaved}));
+  EXPECT_TRUE(BytesOf(book_) == changed);
 }
 
 TEST_F(WizardProgramTest, StandardOutputGetsOneWorkbook) {
