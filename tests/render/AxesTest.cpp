@@ -298,6 +298,7 @@ TEST_P(CategoryLabelsTest, AreWrappedTurnedOrSkippedUntilNoneTouchesAnother) {
 INSTANTIATE_TEST_SUITE_P(
     Cases, CategoryLabelsTest,
     ::testing::Values(LabelCase{"Plain", 4, "Quarter ", "", 0, true},
+                      LabelCase{"EastAsian", 4, "東京都新宿区西新宿二丁目第一本庁舎", "", 0, true},
                       LabelCase{"WrappedAtBlanks", 6, "Northern hemisphere ", "", 0, true},
                       LabelCase{"Slanted", 12, "Septembers", "", -45, true},
                       LabelCase{"Upright", 24, "Septembers", "", -90, true},

@@ -23,8 +23,10 @@ struct Sizes {
   double widest = 0, widestWord = 0, lineHeight = 0;
 };
 
-/// Returns whether a text is a single word, as numbers and most categories are.
-bool IsOneWord(std::string_view text) { return text.find_first_of(" \n") == std::string_view::npos; }
+/// Returns true if no line can break inside of a text, as in numbers and most categories.
+bool IsOneWord(std::string_view text) {
+  return text.find('\n') == text.npos && runtime::WordEnd(text, 0) == text.size();
+}
 
 Sizes Measure(const std::vector<std::string>& texts, const TextStyle& style, const TextMeasure& measure) {
   Sizes sizes;
