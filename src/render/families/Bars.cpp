@@ -101,6 +101,16 @@ void DrawSeriesLines(Plot& plot, const GroupModel& group, const AxisModel& axis,
   }
 }
 
+/// Adds notes on what isn't drawn between or behind bars that are thinner than a pixel.
+void NoteThinBars(Plot& plot, const GroupModel& group) {
+  const bool hasShadows = std::any_of(group.series.begin(), group.series.end(),
+                                      [](const SeriesModel& series) { return series.HasShadows(); });
+  if (hasShadows) plot.canvas.Note("Shadows of bars that are thinner than a pixel aren't drawn.");
+  if (group.seriesLines && group.IsStacked()) {
+    plot.canvas.Note("Series lines between bars that are thinner than a pixel aren't drawn.");
+  }
+}
+
 }  // namespace
 
 void DrawBars(Plot& plot, const GroupModel& group) {
@@ -135,15 +145,10 @@ void DrawBars(Plot& plot, const GroupModel& group) {
     }
   }
   merged.Draw(plot.canvas);
-  const bool hasShadows = std::any_of(group.series.begin(), group.series.end(),
-                                      [](const SeriesModel& series) { return series.HasShadows(); });
-  if (thin && hasShadows) plot.canvas.Note("Shadows of bars that are thinner than a pixel aren't drawn.");
-  if (group.seriesLines && group.IsStacked()) {
-    if (thin) {
-      plot.canvas.Note("Series lines between bars that are thinner than a pixel aren't drawn.");
-    } else {
-      DrawSeriesLines(plot, group, *categoryAxis, places, extents);
-    }
+  if (thin) {
+    NoteThinBars(plot, group);
+  } else if (group.seriesLines && group.IsStacked()) {
+    DrawSeriesLines(plot, group, *categoryAxis, places, extents);
   }
   bars.Draw();
   plot.canvas.PopClip();

@@ -152,7 +152,12 @@ std::string AutomaticName(const Trendline& line, const std::string& series) {
 
 /// Adds the points of a moving average: the mean of each point and the points before it in the period. The
 /// mean is NaN if one of these points has no number.
-void AddMovingAverage(const std::vector<double>& x, const std::vector<double>& y, Trendline& line) {
+void AddMovingAverage(ReadingContext& context, const std::vector<double>& x, const std::vector<double>& y,
+                      Trendline& line) {
+  if (line.period >= y.size()) {
+    AddOnce(context.notes, "A moving average isn't drawn because its period isn't shorter than its series.");
+    return;
+  }
   for (std::size_t i = line.period - 1; i < std::min(x.size(), y.size()); ++i) {
     double mean = 0;
     for (std::size_t k = 0; k < line.period; ++k) mean += y[i - k] / static_cast<double>(line.period);
@@ -189,9 +194,33 @@ double ExtensionOf(pugi::xml_node node, const char* name) {
   return std::isfinite(length) ? std::max(length, 0.0) : 0;
 }
 
+/// Fits the curve of a trendline to the points, and reads how far it extends beyond them, and its label.
+void AddCurve(ReadingContext& context, pugi::xml_node node, const std::vector<double>& x,
+              const std::vector<double>& y, Trendline& line) {
+  constexpr long long kHighestOrder = 6;
+  const auto order =
+      static_cast<std::size_t>(std::clamp(schema::IntegerVal(node, "order", 2), 1LL, kHighestOrder));
+  line.curve = FitTrend(line.kind, order, schema::NumberVal(node, "intercept"), x, y);
+  if (!line.curve) {
+    AddOnce(context.notes,
+            "A trendline isn't drawn because no line of its kind fits the points of its series.");
+    return;
+  }
+  double least = std::numeric_limits<double>::infinity(), greatest = -least;
+  for (std::size_t i = 0; i < std::min(x.size(), y.size()); ++i) {
+    if (!std::isfinite(x[i]) || !std::isfinite(y[i])) continue;
+    least = std::min(least, x[i]);
+    greatest = std::max(greatest, x[i]);
+  }
+  line.forward = ExtensionOf(node, "forward");
+  line.backward = ExtensionOf(node, "backward");
+  line.from = least - line.backward;
+  line.to = greatest + line.forward;
+  ReadLabel(context, node, *line.curve, line);
+}
+
 Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const GroupModel& group,
                         const SeriesModel& series, pugi::xml_node node) {
-  constexpr long long kHighestOrder = 6;
   Trendline line;
   line.kind = KindOf(schema::Val(node, "trendlineType", "linear"));
   line.period =
@@ -203,35 +232,10 @@ Trendline ReadTrendline(ReadingContext& context, const ChartModel& chart, const 
   const TrendPlaces places = PlacesOf(chart, group, series);
   line.shift = places.shift;
   if (line.kind == TrendKind::kMovingAverage) {
-    if (line.period >= series.values.size()) {
-      AddOnce(context.notes,
-              "A moving average isn't drawn because its period isn't shorter than its series.");
-      return line;
-    }
-    AddMovingAverage(places.x, series.values, line);
-    return line;
+    AddMovingAverage(context, places.x, series.values, line);
+  } else {
+    AddCurve(context, node, places.x, series.values, line);
   }
-  const auto order =
-      static_cast<std::size_t>(std::clamp(schema::IntegerVal(node, "order", 2), 1LL, kHighestOrder));
-  const auto curve =
-      FitTrend(line.kind, order, schema::NumberVal(node, "intercept"), places.x, series.values);
-  if (!curve) {
-    AddOnce(context.notes,
-            "A trendline isn't drawn because no line of its kind fits the points of its series.");
-    return line;
-  }
-  double least = std::numeric_limits<double>::infinity(), greatest = -least;
-  for (std::size_t i = 0; i < std::min(places.x.size(), series.values.size()); ++i) {
-    if (!std::isfinite(places.x[i]) || !std::isfinite(series.values[i])) continue;
-    least = std::min(least, places.x[i]);
-    greatest = std::max(greatest, places.x[i]);
-  }
-  line.forward = ExtensionOf(node, "forward");
-  line.backward = ExtensionOf(node, "backward");
-  line.from = least - line.backward;
-  line.to = greatest + line.forward;
-  ReadLabel(context, node, *curve, line);
-  line.curve = curve;
   return line;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <optional>
 
 #include "runtime/Strings.h"
 #include "xlsx/base/Limits.h"
@@ -30,6 +31,66 @@ double DefaultColumnPoints(int characters, int digit) {
   const double pixels = characters * digit + 2 * std::ceil(digit / 4.0) + 1;
   return std::ceil(pixels / 8) * 8 * kPointsPerPixel;
 }
+
+/// Reads the sizes of columns and rows in the part of a sheet before its cells.
+class SizesReader {
+ public:
+  explicit SizesReader(int digitWidth) : digit_(digitWidth) {}
+
+  /// Reads a start tag.
+  void Read(const XmlStream::Tag& tag) {
+    if (tag.name == "sheetFormatPr") ReadDefaults(tag.attributes);
+    if (tag.name == "col") ReadColumns(tag.attributes);
+  }
+
+  /// Returns the sizes, without those of single rows.
+  SheetGeometry Geometry() {
+    SheetGeometry geometry{GridLines(columnWidth_, limits::kColumns), GridLines(rowHeight_, limits::kRows)};
+    std::sort(columns_.begin(), columns_.end(),
+              [](const Columns& a, const Columns& b) { return a.first < b.first; });
+    for (const Columns& range : columns_) {
+      geometry.columns.SetSize(range.first - 1, range.last - 1, range.width.value_or(columnWidth_));
+    }
+    return geometry;
+  }
+
+ private:
+  struct Columns {
+    std::int32_t first, last;     ///< from 1
+    std::optional<double> width;  ///< in points; without it, the default width
+  };
+
+  void ReadDefaults(std::string_view attributes) {
+    if (const auto characters = Number(attributes, "baseColWidth", kMostCharacters))
+      columnWidth_ = DefaultColumnPoints(static_cast<int>(*characters), digit_);
+    if (const auto width = Number(attributes, "defaultColWidth", kMostCharacters))
+      columnWidth_ = ColumnPoints(*width, digit_);
+    rowHeight_ = Number(attributes, "defaultRowHeight", kMostRowHeight).value_or(rowHeight_);
+    if (BooleanIn(attributes, "zeroHeight")) rowHeight_ = 0;
+  }
+
+  void ReadColumns(std::string_view attributes) {
+    constexpr double kBeyond = limits::kColumns + 1;
+    const auto first = Number(attributes, "min", kBeyond), last = Number(attributes, "max", kBeyond);
+    if (!first || !last || *first < 1 || *last > limits::kColumns) return;
+    auto width = Number(attributes, "width", kMostCharacters);
+    if (width) width = ColumnPoints(*width, digit_);
+    if (BooleanIn(attributes, "hidden")) width = 0;
+    columns_.push_back({static_cast<std::int32_t>(*first), static_cast<std::int32_t>(*last), width});
+  }
+
+  /// Returns a number from 0 to `most`, or nothing if the attribute is absent or not a number.
+  static std::optional<double> Number(std::string_view attributes, std::string_view name, double most) {
+    auto value = xml::ParseDouble(AttributeIn(attributes, name));
+    if (value) value = std::clamp(*value, 0.0, most);
+    return value;
+  }
+
+  int digit_;
+  double columnWidth_ = DefaultColumnPoints(kDefaultCharacters, digit_);
+  double rowHeight_ = kDefaultRowHeight;
+  std::vector<Columns> columns_;
+};
 
 }  // namespace
 
@@ -100,51 +161,14 @@ std::pair<std::int32_t, double> GridLines::IndexAt(double points) const {
 SheetGeometry ReadGeometry(const std::string& head,
                            const std::vector<std::pair<std::int32_t, double>>& rowHeights,
                            const Styles& styles) {
-  const int digit = DigitWidth(styles);
-  double columnWidth = DefaultColumnPoints(kDefaultCharacters, digit), rowHeight = kDefaultRowHeight;
-  struct Columns {
-    long long first, last;
-    double width;
-  };
-  std::vector<Columns> columns;
-
+  SizesReader sizes(DigitWidth(styles));
   // The head has no end tag, so it is read as a stream of tags.
   MemoryStream source(head);
   XmlStream stream(source);
   for (XmlStream::Tag tag = stream.Next(); tag.kind != XmlStream::Kind::kEndOfInput; tag = stream.Next()) {
-    const auto number = [&](std::string_view name, double most) {
-      auto value = xml::ParseDouble(AttributeIn(tag.attributes, name));
-      if (value) value = std::clamp(*value, 0.0, most);
-      return value;
-    };
-    if (tag.kind == XmlStream::Kind::kEnd) continue;
-    if (tag.name == "sheetFormatPr") {
-      const auto baseCharacters = number("baseColWidth", kMostCharacters);
-      if (baseCharacters) columnWidth = DefaultColumnPoints(static_cast<int>(*baseCharacters), digit);
-      if (const auto width = number("defaultColWidth", kMostCharacters))
-        columnWidth = ColumnPoints(*width, digit);
-      if (const auto height = number("defaultRowHeight", kMostRowHeight)) rowHeight = *height;
-      if (BooleanIn(tag.attributes, "zeroHeight")) rowHeight = 0;
-    } else if (tag.name == "col") {
-      constexpr double kBeyond = limits::kColumns + 1;
-      const auto first = number("min", kBeyond), last = number("max", kBeyond);
-      const auto width = number("width", kMostCharacters);
-      if (!first || !last || *first < 1 || *last > limits::kColumns) continue;
-      columns.push_back({static_cast<long long>(*first), static_cast<long long>(*last),
-                         BooleanIn(tag.attributes, "hidden") ? 0
-                         : width                             ? ColumnPoints(*width, digit)
-                                                             : -1});
-    }
+    if (tag.kind != XmlStream::Kind::kEnd) sizes.Read(tag);
   }
-
-  SheetGeometry geometry{GridLines(columnWidth, limits::kColumns), GridLines(rowHeight, limits::kRows)};
-  std::sort(columns.begin(), columns.end(),
-            [](const Columns& a, const Columns& b) { return a.first < b.first; });
-  for (const Columns& range : columns) {
-    geometry.columns.SetSize(static_cast<std::int32_t>(range.first) - 1,
-                             static_cast<std::int32_t>(range.last) - 1,
-                             range.width < 0 ? columnWidth : range.width);
-  }
+  SheetGeometry geometry = sizes.Geometry();
   for (const auto& [row, height] : rowHeights) {
     geometry.rows.SetSize(row - 1, row - 1, std::clamp(height, 0.0, kMostRowHeight));
   }
