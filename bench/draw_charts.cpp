@@ -87,7 +87,7 @@ class Pictures {
 };
 
 void DrawAll(xlsx::Workbook& book, Pictures& pictures) {
-  for (const auto& sheet : book.AllSheets()) {
+  for (const auto& sheet : book.Tabs().All()) {
     if (!sheet->worksheet) {
       const auto drawing = book.Package().FindRelationshipOfType(sheet->part, "drawing");
       const auto chart =

@@ -26,13 +26,13 @@ ExampleBook::~ExampleBook() { StopSystem(); }
 excel::Ref<excel::Worksheet> ExampleBook::Sheet(const std::string& name) {
   auto& book = host_->Book();
   const auto sheet =
-      sheets_++ == 0 ? book.AllSheets().front()->worksheet : book.AddWorksheet(book.AllSheets().size());
+      sheets_++ == 0 ? book.Tabs().All().front()->worksheet : book.Tabs().Add(book.Tabs().All().size());
   sheet->SetName(name);
   return sheet;
 }
 
 void ExampleBook::Name(const std::string& name, const std::string& refersTo) {
-  host_->Book().DefineName(name, refersTo);
+  host_->Book().DefinedNames().Define(name, refersTo);
 }
 
 excel::Ref<excel::ChartObject> ExampleBook::Chart(const excel::Ref<excel::Worksheet>& sheet, double left,
@@ -68,7 +68,7 @@ void ExampleBook::FinishAsData(const std::string& path) { host_->Book().Save(pat
 
 void ExampleBook::Refresh() {
   ResetSystem();
-  host_->Book().AllSheets().front()->object->Activate();
+  host_->Book().Tabs().All().front()->object->Activate();
   CPlotsmithController().RefreshPlotsmithData(host_, "make_examples", "");
 }
 

@@ -160,7 +160,7 @@ const MemoryFile& BookWithChart() {
   static const MemoryFile file = [] {
     const auto host = xlsx::Application::Create();
     auto& book = host->NewWorkbook();
-    const auto data = book.AllSheets()[0]->worksheet;
+    const auto data = book.Tabs().All()[0]->worksheet;
     data->SetName("Data1");
     data->SetCellValueAt(1, 1, "Region");
     data->SetCellValueAt(1, 2, "Amount");
@@ -168,7 +168,7 @@ const MemoryFile& BookWithChart() {
     data->SetCellValueAt(2, 2, 5.0);
     data->ChartObjects()->Add(0, 0, 100, 100);
     data->Shapes()->Item(1)->SetAlternativeText("VEX_Chart1");
-    const auto definitions = book.AddWorksheet(1);
+    const auto definitions = book.Tabs().Add(1);
     definitions->SetName("VEX_ChartDefinitions");
     definitions->SetVisible(excel::xlSheetVeryHidden);
     definitions->SetCellValueAt(2, 1, kDefinition);
@@ -210,7 +210,7 @@ void Drawing(const std::uint8_t* data, std::size_t size) {
 void Definition(const std::uint8_t* data, std::size_t size) {
   if (size == 0 || size >= 30000 || data[0] != '<') return;
   RefreshAfter([&](xlsx::Workbook& book) {
-    book.AllSheets()[1]->worksheet->SetCellValueAt(2, 1, std::string(Text(data, size)));
+    book.Tabs().All()[1]->worksheet->SetCellValueAt(2, 1, std::string(Text(data, size)));
   });
 }
 
@@ -218,7 +218,8 @@ void Definition(const std::uint8_t* data, std::size_t size) {
 void ChartShapes(const std::uint8_t* data, std::size_t size) {
   const auto host = xlsx::Application::Create();
   auto& book = host->NewWorkbook();
-  book.AllSheets()[0]
+  book.Tabs()
+      .All()[0]
       ->worksheet->ChartObjects()
       ->Add(0, 0, 100, 100)
       ->Chart()
@@ -230,7 +231,7 @@ void ChartShapes(const std::uint8_t* data, std::size_t size) {
     host->Open(path);
     host->Book().Package().Replace("/xl/drawings/drawing2.xml", std::string(Text(data, size)));
     Tolerate([&] { DrawPictures(host->Book(), kChartPart); });
-    const auto frame = host->Book().AllSheets()[0]->worksheet->ChartObjects()->Item("Chart 1");
+    const auto frame = host->Book().Tabs().All()[0]->worksheet->ChartObjects()->Item("Chart 1");
     const auto shapes = frame->Chart()->Shapes();
     std::vector<std::string> names;
     for (std::int32_t i = 1; i <= shapes->Count(); ++i) {

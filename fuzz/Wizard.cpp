@@ -81,16 +81,16 @@ void FillTable(xlsx::Worksheet& sheet, std::int32_t top, Choices& choices) {
 
 /// Fills a sheet with data, and possibly range tables, which can be bucket tables.
 void FillBook(xlsx::Workbook& book, Choices& choices) {
-  const auto data = book.AllSheets()[0]->worksheet;
+  const auto data = book.Tabs().All()[0]->worksheet;
   data->SetName("Data1");
   FillTable(*data, 1, choices);
   const std::size_t ranges = choices.Below(3);
   for (std::size_t i = 0; i < ranges; ++i) {
-    const auto sheet = book.AddWorksheet(book.AllSheets().size());
+    const auto sheet = book.Tabs().Add(book.Tabs().All().size());
     sheet->SetCellValueAt(1, 1, choices.OneOf(kLabels));
     FillTable(*sheet, 3, choices);
-    book.DefineName("VEX_SB" + std::to_string(i),
-                    sheet->SheetName() + "!$A$1:$B$" + std::to_string(3 + choices.Below(6)));
+    book.DefinedNames().Define("VEX_SB" + std::to_string(i),
+                               sheet->SheetName() + "!$A$1:$B$" + std::to_string(3 + choices.Below(6)));
   }
 }
 

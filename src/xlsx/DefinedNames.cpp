@@ -24,8 +24,8 @@ class BookName final : public excel::DefinedName {
     // Built-in names have a prefix in the file that Excel doesn't show.
     constexpr std::string_view kBuiltin = "_xlnm.";
     name_ = entry_.name.starts_with(kBuiltin) ? entry_.name.substr(kBuiltin.size()) : entry_.name;
-    if (entry_.sheet && *entry_.sheet < book_.AllSheets().size()) {
-      name_ = QuotedSheetName(book_.AllSheets()[*entry_.sheet]->name) + "!" + name_;
+    if (entry_.sheet && *entry_.sheet < book_.Tabs().All().size()) {
+      name_ = QuotedSheetName(book_.Tabs().All()[*entry_.sheet]->name) + "!" + name_;
     }
   }
 
@@ -59,7 +59,7 @@ class BookName final : public excel::DefinedName {
 class BookNames final : public excel::Names {
  public:
   explicit BookNames(Workbook& book) {
-    for (const NameEntry& entry : book.AllNames()) {
+    for (const NameEntry& entry : book.DefinedNames().All()) {
       auto name = std::make_shared<BookName>(book, entry);
       std::string key = runtime::UCase(name->Name());
       names_.emplace_back(std::move(key), std::move(name));

@@ -37,11 +37,11 @@ PageSetup PageSetupOf(Workbook& book, const SheetEntry& sheet) {
 }
 
 std::vector<CellRange> PrintAreaOf(const Workbook& book, const SheetEntry& sheet) {
-  const auto& sheets = book.AllSheets();
+  const auto& sheets = book.Tabs().All();
   const auto place = static_cast<std::size_t>(
       std::find_if(sheets.begin(), sheets.end(), [&](const auto& entry) { return entry.get() == &sheet; }) -
       sheets.begin());
-  for (const NameEntry& name : book.AllNames()) {
+  for (const NameEntry& name : book.DefinedNames().All()) {
     if (name.sheet == place && runtime::EqualsIgnoreCase(name.name, kPrintArea))
       return RangesOf(name.definition);
   }

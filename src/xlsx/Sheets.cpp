@@ -17,13 +17,13 @@ class BookSheets final : public excel::Sheets {
  public:
   explicit BookSheets(Workbook& book) : book_(book) {}
 
-  std::int32_t Count() override { return static_cast<std::int32_t>(book_.AllSheets().size()); }
+  std::int32_t Count() override { return static_cast<std::int32_t>(book_.Tabs().All().size()); }
   Ref<excel::Sheet> Item(std::int32_t index) override {
     if (index < 1 || index > Count()) throw RuntimeError(runtime::error::kSubscript);
-    return book_.AllSheets()[static_cast<std::size_t>(index) - 1]->object;
+    return book_.Tabs().All()[static_cast<std::size_t>(index) - 1]->object;
   }
   Ref<excel::Sheet> Item(std::string_view name) override {
-    const auto sheet = book_.FindSheet(name);
+    const auto sheet = book_.Tabs().Find(name);
     if (!sheet) throw RuntimeError(runtime::error::kSubscript);
     return sheet->object;
   }
@@ -36,14 +36,14 @@ class BookSheets final : public excel::Sheets {
       return sheet ? runtime::Variant(sheet->Name()) : runtime::Variant();
     };
     book_.Journal().Call([] { return std::string("Sheets"); }, "Add", {name(before), name(after)});
-    const auto& sheets = book_.AllSheets();
+    const auto& sheets = book_.Tabs().All();
     const auto position = [&](const Ref<excel::Sheet>& sheet) {
       const auto found = std::find_if(sheets.begin(), sheets.end(),
                                       [&](const auto& entry) { return entry->object == sheet.shared(); });
       return static_cast<std::size_t>(found - sheets.begin());
     };
-    if (after) return book_.AddWorksheet(position(after) + 1);
-    return book_.AddWorksheet(position(before ? before : book_.ActiveSheet()));
+    if (after) return book_.Tabs().Add(position(after) + 1);
+    return book_.Tabs().Add(position(before ? before : book_.ActiveSheet()));
   }
 
  private:
@@ -54,10 +54,10 @@ class BookWorksheets final : public excel::Worksheets {
  public:
   explicit BookWorksheets(Workbook& book) : book_(book) {}
 
-  std::int32_t Count() override { return static_cast<std::int32_t>(book_.AllWorksheets().size()); }
+  std::int32_t Count() override { return static_cast<std::int32_t>(book_.Tabs().Worksheets().size()); }
   Ref<excel::Worksheet> Item(std::int32_t index) override {
     if (index < 1 || index > Count()) throw RuntimeError(runtime::error::kSubscript);
-    return book_.AllWorksheets()[static_cast<std::size_t>(index) - 1];
+    return book_.Tabs().Worksheets()[static_cast<std::size_t>(index) - 1];
   }
   Ref<excel::Worksheet> Item(std::string_view name) override {
     auto sheet = book_.FindWorksheet(name);

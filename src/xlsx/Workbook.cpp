@@ -45,7 +45,7 @@ std::shared_ptr<Workbook> Workbook::New(xlsx::Application& application) {
                       std::string(kXmlDeclaration) + std::string(kEmptyWorkbook));
   book->Package().AddRelationship("", kTransitional.RelationshipType("officeDocument"), "/xl/workbook.xml");
   book->Load();
-  book->AddWorksheet(0);
+  book->Tabs().Add(0);
   return book;
 }
 
@@ -103,10 +103,6 @@ std::shared_ptr<Worksheet> Workbook::FindWorksheet(std::string_view name) const 
 }
 
 std::shared_ptr<CellSource> Workbook::FindCells(std::string_view sheet) const { return FindWorksheet(sheet); }
-
-void Workbook::DefineName(std::string name, std::string definition) {
-  names_.Define(std::move(name), std::move(definition));
-}
 
 Ref<excel::Chart> Workbook::ActiveChart() {
   const auto sheet = sheets_.Active();

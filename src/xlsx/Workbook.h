@@ -53,25 +53,18 @@ class Workbook final : public excel::Workbook,
   void CheckTarget(const std::string& path) const;
 
   /// The sheets and their tabs.
+  ///@{
   SheetList& Tabs() { return sheets_; }
-  /// All sheets in the order of their tabs.
-  const std::vector<std::shared_ptr<SheetEntry>>& AllSheets() const { return sheets_.All(); }
-  /// The sheets with cells, in the order of their tabs.
-  const std::vector<std::shared_ptr<Worksheet>>& AllWorksheets() const { return sheets_.Worksheets(); }
-  /// The sheet with a name, ignoring case; null if there is none.
-  std::shared_ptr<SheetEntry> FindSheet(std::string_view name) const { return sheets_.Find(name); }
+  const SheetList& Tabs() const { return sheets_; }
+  ///@}
   /// The worksheet with a name, ignoring case; null if there is none, or if the sheet has no cells.
   std::shared_ptr<Worksheet> FindWorksheet(std::string_view name) const;
   std::shared_ptr<CellSource> FindCells(std::string_view sheet) const override;
-  /// Adds an empty worksheet at a tab, from 0, and makes it the active one.
-  std::shared_ptr<Worksheet> AddWorksheet(std::size_t position) { return sheets_.Add(position); }
-  /// Number of activations of sheets and cells so far.
-  std::uint64_t Activations() const { return sheets_.Activations(); }
-
   /// The defined names.
-  const std::vector<NameEntry>& AllNames() const { return names_.All(); }
-  /// Adds a name that belongs to the whole workbook.
-  void DefineName(std::string name, std::string definition);
+  ///@{
+  NameList& DefinedNames() { return names_; }
+  const NameList& DefinedNames() const { return names_; }
+  ///@}
 
   /// The chart parts that are in use.
   ChartParts& Charts() { return charts_; }

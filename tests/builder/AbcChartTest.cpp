@@ -154,7 +154,7 @@ TEST_F(AbcChartTest, SeriesAfterThe78thColumnKeepThePreviousName) {
   ASSERT_TRUE(document.loadXML("<chart data-start-row=\"5\"/>"));
   mCategoryCount = 12;
   mSeriesCount = 77;
-  Book().AddWorksheet(0)->SetName("VEX_ChartData");
+  Book().Tabs().Add(0)->SetName("VEX_ChartData");
   mChart = oWorkbook->Worksheets()->Item("Data1")->ChartObjects()->Add(0, 0, 100, 100)->Chart();
   journal_.clear();
   PopulateABCChart(document.documentElement());

@@ -183,7 +183,7 @@ TEST_F(BatchTest, AnInterruptStopsTheWorkBetweenOldAndNew) {
   const auto doRun = [&](const BookRun& run, const Streams& to) -> BookResult {
     if (run.book == runs[5].book) kill(self, SIGINT);
     Session session(run.book, {}, to);
-    session.Book().DefineName("Changed", "1");
+    session.Book().DefinedNames().Define("Changed", "1");
     return {session.Save({}), {}};
   };
   std::istringstream in;

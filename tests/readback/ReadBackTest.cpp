@@ -87,7 +87,7 @@ TEST_F(ReadBackTest, ChartsAsExcelAndOthersSavedThem) {
   for (const auto& file : fs::directory_iterator(folder)) {
     OpenFile(file.path().string());
     int number = 0;
-    for (const auto& sheet : Book().AllSheets()) {
+    for (const auto& sheet : Book().Tabs().All()) {
       if (!sheet->worksheet) continue;
       const auto shapes = sheet->worksheet->Shapes();
       for (int i = 1; i <= shapes->Count(); ++i) {

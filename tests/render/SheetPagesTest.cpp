@@ -153,7 +153,7 @@ class SheetPagesTest : public DrawingTest {
     book.workbookExtra = workbookExtra_;
     xlsx::Workbook& opened = Open(book);
     notes_.clear();
-    return DrawSheet(opened, *opened.AllSheets().front(), paper, measure, notes_);
+    return DrawSheet(opened, *opened.Tabs().All().front(), paper, measure, notes_);
   }
   static RawCell Cell(int style, const S& text) {
     return {" s=\"" + std::to_string(style) + "\" t=\"str\"><v>" + text + "</v></c>"};

@@ -169,7 +169,7 @@ TEST_F(LibreOfficeTest, ReadsPiesBubblesAndBuckets) {
 
 TEST_F(LibreOfficeTest, AChartOnANewSheetHasItsHeight) {
   Open(test::SalesBook({}));
-  const auto sheet = Book().AddWorksheet(1);
+  const auto sheet = Book().Tabs().Add(1);
   sheet->SetName("New");
   sheet->ChartObjects()->Add(48, 45, 480, 300);
   SaveAndReopen();

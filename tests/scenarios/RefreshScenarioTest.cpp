@@ -131,7 +131,7 @@ TEST_F(RefreshScenarioTest, WithoutMemoryASaveLeavesTheOldFile) {
   const auto isSaved = [&](int allocation) {
     Open(SalesBook({{"VEX_Chart1"}, {"VEX_Chart2", "pie"}}));
     Refresh();
-    Book().Tabs().Activate(*Book().FindSheet("Charts"));
+    Book().Tabs().Activate(*Book().Tabs().Find("Charts"));
     return SaveWithoutMemory(folder_ / "book.xlsx", allocation, [&](const S& path) { Book().Save(path); });
   };
   for (int allocation = 1; !isSaved(allocation); allocation += 1 + allocation / 8) {

@@ -150,9 +150,9 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
       OpenFile(file.string(), version);
       if (Book().ProtectStructure()) break;
       const auto add = [&](const S& name, const std::vector<PlainRow>& rows) {
-        if (Book().FindSheet(name)) return Book().FindWorksheet(name);
-        const auto sheet = Book().AddWorksheet(Book().AllSheets().size());
-        Book().Tabs().Rename(*Book().FindSheet(sheet->SheetName()), name);
+        if (Book().Tabs().Find(name)) return Book().FindWorksheet(name);
+        const auto sheet = Book().Tabs().Add(Book().Tabs().All().size());
+        Book().Tabs().Rename(*Book().Tabs().Find(sheet->SheetName()), name);
         for (std::size_t r = 0; r < rows.size(); ++r) {
           for (std::size_t c = 0; c < rows[r].size(); ++c) {
             const auto row = static_cast<std::int32_t>(r + 1), column = static_cast<std::int32_t>(c + 1);
@@ -164,7 +164,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
         return sheet;
       };
       std::vector<PlainRow> definitions = {{S("Plotsmith Version 2.0")}};
-      const auto sheets = Book().AllWorksheets();
+      const auto sheets = Book().Tabs().Worksheets();
       for (const auto& sheet : sheets) {
         const auto shapes = sheet->Shapes();
         for (int i = 1; i <= shapes->Count(); ++i) {
@@ -184,7 +184,7 @@ TEST_F(SchemaTest, ChartsOfTheCorpusWithADefinition) {
       if (definitions.size() == 1) break;
       add("Data1", SalesSheet().rows);
       add("Targets", PlainSales().Sheet("Targets").rows);
-      Book().DefineName("VEX_SB1", "Targets!$A$1:$B$5");
+      Book().DefinedNames().Define("VEX_SB1", "Targets!$A$1:$B$5");
       add("VEX_ChartDefinitions", definitions);
       for (int refresh = 1; refresh <= 2; ++refresh) {
         RefreshAndReopen();

@@ -258,7 +258,7 @@ TEST_F(DeletedChartTest, ANewChartCanReplaceADeletedOne) {
 TEST_F(DeletedChartTest, IsDeletedWithItsSheet) {
   test::SalesBook({}).Write(folder_ / "book.xlsx");
   OpenFile(folder_ / "book.xlsx");
-  const auto sheet = Book().AddWorksheet(0);
+  const auto sheet = Book().Tabs().Add(0);
   const auto chart = sheet->ChartObjects()->Add(0, 0, 100, 100)->Chart();
   chart->SetHasLegend(true);
   sheet->Delete();

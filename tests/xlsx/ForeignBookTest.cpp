@@ -187,7 +187,7 @@ TEST_F(ForeignBookTest, ExtremeNumbersAreLimited) {
       book, {{kWorkbookPart, Replacing("sheetId=\"3\"", "sheetId=\"65534\"")},
              {"/xl/drawings/drawing2.xml", Replacing("cNvPr id=\"3\"", "cNvPr id=\"9223372036854775807\"")}});
   AddBox("Charts");
-  Book().AddWorksheet(0)->SetCellValueAt(1, 1, 1.0);
+  Book().Tabs().Add(0)->SetCellValueAt(1, 1, 1.0);
   Sheet("Sheet1")->SetNumberFormat({1, 1, 1, 1}, "0.000");
   Refresh();
   SaveAndReopen();
@@ -210,7 +210,7 @@ TEST_F(ForeignBookTest, TheFirstStyleStaysThatOfAllOtherCells) {
     if (!strict) book.styles = "<styleSheet xmlns=\"" + main + "\"/>";
     OpenEdited(book, {{kWorkbookPart,
                        Replacing("http://schemas.openxmlformats.org/spreadsheetml/2006/main", main)}});
-    Book().AddWorksheet(0)->SetCellValueAt(1, 1, 0.5);
+    Book().Tabs().Add(0)->SetCellValueAt(1, 1, 0.5);
     Sheet("Sheet1")->SetNumberFormat({1, 1, 1, 1}, "0%");
     SaveAndReopen();
     EXPECT_EQ(Cells("Sheet1", 1, 1, 1, 1), "50%");
@@ -264,11 +264,11 @@ TEST_F(ForeignBookTest, OneTabIsSelectedWhenAnotherSheetBecomesActive) {
   Refresh();  // The refresh adds a hidden sheet and activates the old one again.
   SaveAndReopen();
   EXPECT_EQ(tabs(), "12") << "a group made by the user is kept";
-  Book().Tabs().Activate(*Book().FindSheet("Charts"));
+  Book().Tabs().Activate(*Book().Tabs().Find("Charts"));
   SaveAndReopen();
   EXPECT_EQ(tabs(), "2");
   EXPECT_EQ(Book().ActiveSheet()->Name(), "Charts");
-  Book().AddWorksheet(1);
+  Book().Tabs().Add(1);
   SaveAndReopen();
   EXPECT_EQ(tabs(), "5");
   EXPECT_EQ(Book().ActiveSheet()->Name(), "Sheet1");
@@ -292,7 +292,7 @@ TEST_F(ForeignBookTest, ANewSheetIsNotShownIfItWouldBeGroupedWithAnother) {
     }
     OpenFile(folder_ / "plain.xlsx");
     for (const std::size_t position : {std::size_t{0}, std::size_t{1}}) {
-      Book().AddWorksheet(position);
+      Book().Tabs().Add(position);
       SaveAndReopen();
     }
     S tabs;
@@ -336,7 +336,7 @@ TEST_F(ForeignBookTest, ASumBeyondAllNumbersIsAnOverflow) {
   Open(book);
   Refresh();
   EXPECT_EQ(Messages(), (std::vector<S>{"Brindle Plotsmith: PSChartBuilder.GetSourceData\nOverflow"}));
-  const auto sheet = Book().AddWorksheet(0);
+  const auto sheet = Book().Tabs().Add(0);
   EXPECT_EQ(ErrorOf([&] { sheet->SetCellValueAt(1, 1, std::numeric_limits<double>::infinity()); }),
             runtime::error::kOverflow);
 }

@@ -17,7 +17,7 @@ class WindowTest : public test::HostTest {
   }
   /// Returns the saved part of a sheet up to its cells.
   S SavedHead(const S& sheet) {
-    const S part = SavedPart(Book().FindSheet(sheet)->part);
+    const S part = SavedPart(Book().Tabs().Find(sheet)->part);
     return part.substr(part.find("<worksheet"), part.find("<sheetData") - part.find("<worksheet"));
   }
 };
@@ -28,7 +28,7 @@ TEST_F(WindowTest, IsNothingWhileNoWorkbookIsOpen) {
 
 TEST_F(WindowTest, ANewSheetKeepsItsViewWithCellsAndTab) {
   Open(test::SalesBook({}));
-  const auto sheet = Book().AddWorksheet(2);
+  const auto sheet = Book().Tabs().Add(2);
   sheet->SetCellValueAt(2, 3, 1.0);  // The cells are rewritten.
   HideGridAndHeadings();
   EXPECT_EQ(journal_.end()[-2], "ActiveWindow.DisplayGridlines = False");

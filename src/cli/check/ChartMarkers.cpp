@@ -28,7 +28,7 @@ std::vector<std::string> TextsInGroup(pugi::xml_node group) {
 }  // namespace
 
 bool ChartMarkers::ReadNextSheet() {
-  const auto& sheets = book_.AllWorksheets();
+  const auto& sheets = book_.Tabs().Worksheets();
   if (sheetsRead_ >= sheets.size()) return false;
   xlsx::Worksheet& sheet = *sheets[sheetsRead_++];
   const xlsx::SheetDrawing* const drawing = sheet.FindDrawing();

@@ -90,7 +90,7 @@ int CellsCommand::Run(const GlobalOptions& options, const Streams& streams) {
   const auto sheet = session.Book().FindWorksheet(range->sheet);
   if (!sheet) {
     std::vector<std::string> names;
-    for (const auto& worksheet : session.Book().AllWorksheets()) names.push_back(worksheet->Name());
+    for (const auto& worksheet : session.Book().Tabs().Worksheets()) names.push_back(worksheet->Name());
     throw NotInBook(book_, "worksheet", range->sheet, names);
   }
 

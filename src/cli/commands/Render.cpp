@@ -72,10 +72,10 @@ int RenderCommand::RenderCharts(Session& session, std::unique_ptr<PictureWriter>
 
 int RenderCommand::RenderSheet(Session& session, std::unique_ptr<PictureWriter> writer,
                                const Streams& streams) const {
-  const auto sheet = session.Book().FindSheet(*sheet_);
+  const auto sheet = session.Book().Tabs().Find(*sheet_);
   if (!sheet) {
     std::vector<std::string> names;
-    for (const auto& one : session.Book().AllSheets()) names.push_back(one->name);
+    for (const auto& one : session.Book().Tabs().All()) names.push_back(one->name);
     throw NotInBook(book_, "sheet", *sheet_, names);
   }
   const auto paper = onePage_ ? render::Paper::kOne : render::Paper::kPrinted;

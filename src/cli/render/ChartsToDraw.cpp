@@ -56,7 +56,7 @@ ChartToDraw ChartOnSheet(xlsx::Workbook& book, const std::string& name) {
     std::string_view text(name);
     const std::string sheetName =
         text.starts_with('\'') ? xlsx::TakeQuotedSheetName(text) : name.substr(0, mark);
-    const auto sheet = book.FindSheet(sheetName);
+    const auto sheet = book.Tabs().Find(sheetName);
     if (!sheet) continue;
     const std::string shapeName = name.substr(mark + 1);
     for (const auto& shape : ChartShapes(book, *sheet)) {
@@ -64,7 +64,7 @@ ChartToDraw ChartOnSheet(xlsx::Workbook& book, const std::string& name) {
         return {LabelOf(*sheet, *shape), shape->Chart()};
     }
   }
-  const auto sheet = book.FindSheet(name);
+  const auto sheet = book.Tabs().Find(name);
   if (!sheet || sheet->worksheet) return {name, nullptr};
   return {sheet->name, book.ChartOf(*sheet)};
 }
@@ -112,7 +112,7 @@ std::vector<std::string> OtherCharts(xlsx::Workbook& book, const std::vector<Def
   std::set<std::string> known;
   for (const DefinedChart& one : defined) known.insert(one.id);
   std::vector<std::string> names;
-  for (const auto& sheet : book.AllSheets()) {
+  for (const auto& sheet : book.Tabs().All()) {
     for (const auto& shape : ChartShapes(book, *sheet)) {
       if (!known.contains(shape->AlternativeText())) names.push_back(LabelOf(*sheet, *shape));
     }

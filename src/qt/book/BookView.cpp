@@ -106,7 +106,7 @@ void BookView::SetChartPainter(ChartPainter painter) {
 /// Returns the tabs for the host's current sheets, with their existing pages.
 std::vector<BookView::Tab> BookView::ListTabs() {
   std::vector<Tab> tabs;
-  for (const auto& entry : host_->Book().AllSheets()) {
+  for (const auto& entry : host_->Book().Tabs().All()) {
     const std::int32_t visible = entry->object->Visible();
     if (visible == excel::xlSheetVeryHidden) continue;
     Tab tab{entry, qt::TextOf(entry->name), visible == excel::xlSheetHidden, nullptr, 0};
@@ -212,7 +212,7 @@ void BookView::ShowTab(int index) {
 
 void BookView::Update() {
   const std::uint64_t calls = host_->Journal().CallCount();
-  const std::uint64_t activations = host_->Book().Activations();
+  const std::uint64_t activations = host_->Book().Tabs().Activations();
   if (calls == calls_ && activations == activations_) return;
   UpdateTabs();
   if (activations != activations_) {
@@ -224,7 +224,7 @@ void BookView::Update() {
 }
 
 void BookView::ShowActive() {
-  activations_ = host_->Book().Activations();
+  activations_ = host_->Book().Tabs().Activations();
   const excel::Ref<excel::Sheet> active = host_->Book().ActiveSheet();
   for (std::size_t i = 0; i < list_.size(); ++i) {
     const auto entry = list_[i].sheet.lock();

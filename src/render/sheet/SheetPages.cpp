@@ -47,9 +47,9 @@ void NoteMissing(const xlsx::Workbook& book, const xlsx::SheetEntry& sheet, cons
   if (setup.hasHeaderOrFooter) notes.emplace_back("Headers and footers aren't drawn.");
   if (setup.hasConditionalFormats) notes.emplace_back("Conditional formats of cells aren't drawn.");
   if (setup.headings) notes.emplace_back("The letters of columns and the numbers of rows aren't drawn.");
-  const auto& sheets = book.AllSheets();
-  const bool hasTitles =
-      std::any_of(book.AllNames().begin(), book.AllNames().end(), [&](const xlsx::NameEntry& name) {
+  const auto& sheets = book.Tabs().All();
+  const bool hasTitles = std::any_of(
+      book.DefinedNames().All().begin(), book.DefinedNames().All().end(), [&](const xlsx::NameEntry& name) {
         return name.sheet && *name.sheet < sheets.size() && sheets[*name.sheet].get() == &sheet &&
                name.name == kPrintTitles;
       });

@@ -29,7 +29,7 @@ test::PlainBook BookOfSheets() {
 class BookViewTest : public test::BookTest {
  protected:
   void Activate(const S& sheet) {
-    Book().FindSheet(sheet)->object->Activate();
+    Book().Tabs().Find(sheet)->object->Activate();
     view_->Update();
   }
 };
@@ -54,7 +54,7 @@ TEST_F(BookViewTest, TabsFollowTheSheets) {
   view.Update();
   EXPECT_EQ(Tabs(), "[Sheet1]|Data1|Charts|Notes && more|Far");
   added->SetName("VEX_New");
-  Book().FindSheet("Far")->object->SetVisible(excel::xlSheetVeryHidden);
+  Book().Tabs().Find("Far")->object->SetVisible(excel::xlSheetVeryHidden);
   view.Update();
   EXPECT_EQ(Tabs(), "[VEX_New]|Data1|Charts|Notes && more");
   added->Delete();

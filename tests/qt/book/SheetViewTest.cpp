@@ -356,7 +356,7 @@ TEST_F(SheetViewTest, ChartsAreDrawnWhenTheyBecomeVisibleOrChange) {
 
 TEST_F(SheetViewTest, AFrameShowsTitleAndTypeOfItsChart) {
   OpenFile(S(test::kSourceFolder) + "/examples/bicycle-sales.xlsx");
-  Book().FindSheet("Charts")->object->Activate();
+  Book().Tabs().Find("Charts")->object->Activate();
   Show();
   ASSERT_GE(Sheet().Frames().size(), 3U);
   const ChartCaption wanted[] = {{"Revenue by quarter and region", "Column chart"},

@@ -144,8 +144,8 @@ TEST_P(PortContract, Ranges) {
 }
 
 TEST_P(PortContract, Names) {
-  Host().application->Book().DefineName("VEX_TableRange_Fruit", "Sheet1!$A$2:$C$4");
-  Host().application->Book().DefineName("Nothing", "1+1");
+  Host().application->Book().DefinedNames().Define("VEX_TableRange_Fruit", "Sheet1!$A$2:$C$4");
+  Host().application->Book().DefinedNames().Define("Nothing", "1+1");
   SAYS(Book()->Names()->Count(), "2");
   SAYS(Book()->Names()->Item(1)->Name(), R"("Nothing")");
   SAYS(Book()->Names()->Item(3), "error 1004: Application-defined or object-defined error");

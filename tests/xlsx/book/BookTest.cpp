@@ -54,14 +54,14 @@ TEST_F(BookTest, LocalNamesStayWithTheirSheets) {
     std::function<void(Workbook&)> change;
     S one, two;
   } const kCases[] = {
-      {"before both", [](Workbook& book) { book.AddWorksheet(0); }, "1", "2"},
-      {"between them", [](Workbook& book) { book.AddWorksheet(1); }, "0", "2"},
-      {"behind them", [](Workbook& book) { book.AddWorksheet(2); }, "0", "1"},
+      {"before both", [](Workbook& book) { book.Tabs().Add(0); }, "1", "2"},
+      {"between them", [](Workbook& book) { book.Tabs().Add(1); }, "0", "2"},
+      {"behind them", [](Workbook& book) { book.Tabs().Add(2); }, "0", "1"},
       {"two sheets, one of which is removed again",
        [](Workbook& book) {
-         book.AddWorksheet(1);
-         book.AddWorksheet(0);
-         book.Tabs().Remove(*book.AllSheets()[0]);
+         book.Tabs().Add(1);
+         book.Tabs().Add(0);
+         book.Tabs().Remove(*book.Tabs().All()[0]);
        },
        "0", "2"},
   };
@@ -91,7 +91,7 @@ TEST_F(BookTest, ANewNameIsInItsPlaceInTheWorkbookPart) {
        {"calcPr", "oleSize", "customWorkbookViews", "pivotCaches", "smartTagPr", "smartTagTypes",
         "webPublishing", "fileRecoveryPr", "webPublishObjects", "extLst"}) {
     OpenWith("<" + element + "/>");
-    Book().DefineName("New", "One!$A$1");
+    Book().DefinedNames().Define("New", "One!$A$1");
     EXPECT_EQ(Names(), Texts{"New=One!$A$1"});
     EXPECT_EQ(SavedBehindSheets(), "<definedNames>" + name + "</definedNames><" + element + "/>");
   }
@@ -99,7 +99,7 @@ TEST_F(BookTest, ANewNameIsInItsPlaceInTheWorkbookPart) {
   for (const S before : {"", "<functionGroups/>", "<externalReferences/>"}) {
     OpenWith(before + "<definedNames>" + old + "</definedNames>");
     EXPECT_EQ(Names(), Texts{"Old=1"});
-    Book().DefineName("New", "One!$A$1");
+    Book().DefinedNames().Define("New", "One!$A$1");
     EXPECT_EQ(Names(), (Texts{"New=One!$A$1", "Old=1"}));
     EXPECT_EQ(SavedBehindSheets(), before + "<definedNames>" + old + name + "</definedNames>");
   }

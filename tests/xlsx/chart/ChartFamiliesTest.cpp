@@ -329,8 +329,8 @@ TEST_F(ChartFamiliesTest, ChartsOfOtherProgramsCanHaveAllTypes) {
     for (const auto& call : families) {
       SCOPED_TRACE(family++);
       OpenFile(file.path().string());
-      if (!Book().FindWorksheet("Sheet1")) Book().AddWorksheet(0)->SetName("Sheet1");
-      for (const auto& entry : Book().AllSheets()) {
+      if (!Book().FindWorksheet("Sheet1")) Book().Tabs().Add(0)->SetName("Sheet1");
+      for (const auto& entry : Book().Tabs().All()) {
         if (!entry->worksheet) continue;
         const auto shapes = entry->worksheet->Shapes();
         for (int i = 1; i <= shapes->Count(); ++i) {

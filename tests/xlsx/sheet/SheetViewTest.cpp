@@ -77,18 +77,18 @@ class LookedAtTest : public test::HostTest {};
 TEST_F(LookedAtTest, TheViewFollowsTheWindowAndTheActiveCell) {
   Open(test::SalesBook({}));
   const auto sheet = Book().FindWorksheet("Data1");
-  const auto calls = host_->Journal().CallCount(), activations = Book().Activations();
+  const auto calls = host_->Journal().CallCount(), activations = Book().Tabs().Activations();
   EXPECT_EQ(sheet->View(), SheetView());
   EXPECT_EQ(host_->Journal().CallCount(), calls);
 
   host_->ActiveWindow()->SetDisplayGridlines(false);
-  EXPECT_EQ(Book().Activations(), activations);
+  EXPECT_EQ(Book().Tabs().Activations(), activations);
   sheet->Cells(4, 2)->Activate();
   EXPECT_EQ(sheet->View(), (SheetView{false, true, {1, 1}, {4, 2}, 0, 0}));
   EXPECT_EQ(host_->Journal().CallCount(), calls + 2);
-  EXPECT_EQ(Book().Activations(), activations + 1);
+  EXPECT_EQ(Book().Tabs().Activations(), activations + 1);
   Book().FindWorksheet("Charts")->Activate();
-  EXPECT_EQ(Book().Activations(), activations + 2);
+  EXPECT_EQ(Book().Tabs().Activations(), activations + 2);
 }
 
 TEST_F(LookedAtTest, MergedCellsAreReadAtTheirPositionInTheSchema) {
