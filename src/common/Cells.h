@@ -7,10 +7,10 @@
 #include "host/excel/Worksheet.h"
 #include "runtime/Variant.h"
 
+/// @file
+/// Functions that read one cell. Rows and columns count from 1. A failed read gives "" for a text and 0 for a
+/// number.
 namespace plotsmith {
-
-// Functions that read one cell. Rows and columns count from 1. A failed read gives "" for a text and 0 for a
-// number.
 
 /// Returns the cell in the form `lKind`, a constant of namespace `cell`.
 runtime::Variant GetCellValue(excel::Worksheet& oSheet, std::int32_t lRow, std::int32_t lColumn,

@@ -1,9 +1,9 @@
 #pragma once
 
+/// @file
+/// Module PSChartBuilder: the legend of bubble and strategic bucket charts. The built-in legend would have an
+/// entry for each of their many series. On hosts above version 11 the legend is drawn from shapes instead.
 namespace plotsmith {
-
-// Module PSChartBuilder: the legend of bubble and strategic bucket charts. The built-in legend would have an
-// entry for each of their many series. On hosts above version 11 the legend is drawn from shapes instead.
 
 /// Returns True if these charts have a drawn legend on this host.
 bool LegendIsDrawn();

@@ -2,9 +2,9 @@
 
 #include "render/plot/Plot.h"
 
+/// @file
+/// Each of these functions draws the series of a group, and adds the points that have labels to Plot::points.
 namespace plotsmith::render {
-
-// Each of these functions draws the series of a group, and adds the points that have labels to Plot::points.
 
 /// Draws bars or columns.
 void DrawBars(Plot& plot, const GroupModel& group);
