@@ -111,11 +111,10 @@ std::size_t CharacterEnd(std::string_view text, std::size_t position) {
 }
 
 std::size_t WordEnd(std::string_view text, std::size_t begin) {
-  const std::string_view word = text.substr(0, text.find(' ', begin));
   std::size_t at = begin;
-  for (char32_t before = 0; at < word.size();) {
+  for (char32_t before = 0; at < text.size() && text[at] != ' ';) {
     std::size_t next = at;
-    const char32_t character = NextCharacter(word, next);
+    const char32_t character = NextCharacter(text, next);
     if (at > begin && MayBreakBetween(before, character)) break;
     before = character;
     at = next;
