@@ -161,6 +161,13 @@ TEST_F(BubbleChartTest, ANameHasTheColourOfItsNumberAndNotOfItsSeries) {
   }
 }
 
+TEST_F(BubbleChartTest, ALabelThatLooksLikeAFormulaIsAName) {
+  ChartCalls(BubbleBook({{"A", "=x", 1, 1, 9}, {"B", "y", 1, 1, 8}}, BubbleDefinition()));
+  EXPECT_EQ(Chart()->SeriesCollection()->Item(1)->Name(), "=x");
+  EXPECT_NE(ColorOf("=x"), ColorOf("y"));
+  EXPECT_TRUE(Messages().empty());
+}
+
 TEST_F(BubbleChartTest, ARowWithoutAColourLabelKeepsItsPlace) {
   const auto book = BubbleBook({{"A", "Red", 1, 2, 30}, {"B", "  ", 3, 4, 20}, {"C", "Blue", 5, 6, 10}},
                                BubbleDefinition());

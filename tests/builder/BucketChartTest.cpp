@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "builder/state/BuilderVariables.h"
+#include "readback/ChartReadBack.h"
 #include "tests/support/ChartCallsTest.h"
 #include "tests/support/FamilyBooks.h"
 
@@ -124,6 +125,22 @@ TEST_F(BucketChartTest, WithoutManualLabelsOnlyTheBucketsAreLabelled) {
   for (const S& line : With(calls, "DataLabels"))
     EXPECT_TRUE(line.starts_with("Chart.SeriesCollection(4).")) << line;
   EXPECT_FALSE(With(calls, "ApplyDataLabels").empty());
+}
+
+TEST_F(BucketChartTest, LabelsThatLookLikeFormulasAreNames) {
+  test::PlainBook book = BucketBook(BucketDefinition());
+  auto& rows = book.Sheet("Data1").rows;
+  rows[1][1] = S("=x");
+  rows[2][1] = S("=\"y\"");
+  rows[3][1] = S("=X");
+  ChartCalls(book);
+  EXPECT_TRUE(Messages().empty());
+  SaveAndReopen();
+  const auto series = Chart()->SeriesCollection();
+  ASSERT_EQ(series->Count(), 4);
+  EXPECT_EQ(series->Item(2)->Name(), "=x");
+  EXPECT_EQ(series->Item(3)->Name(), "=\"y\"");
+  EXPECT_TRUE(IsStrBuckChart(Chart()));
 }
 
 TEST_F(BucketChartTest, TheReferenceCanContainAtMost22Buckets) {

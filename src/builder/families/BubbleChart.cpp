@@ -55,7 +55,8 @@ void AddBubble(excel::Worksheet& oSheet, std::int32_t lRow, SeriesColors& oColor
     return;
   }
   const auto value = [&](std::int32_t lColumn) { return DataCells(lRow, lColumn, lRow, lColumn); };
-  IgnoreErrors([&] { oSeries->SetName(sName); }, [&] { oSeries->SetXValues(value(bubble_column::kX)); },
+  IgnoreErrors([&] { SetLiteralName(*oSeries, sName); },
+               [&] { oSeries->SetXValues(value(bubble_column::kX)); },
                [&] { oSeries->SetValues(value(bubble_column::kY)); },
                [&] { oSeries->SetBubbleSizes(value(bubble_column::kSize)); });
   const auto oFill = runtime::MakeRef<CPSColor>();

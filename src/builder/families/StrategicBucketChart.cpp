@@ -151,7 +151,7 @@ void PopulateStrBuckChart(const IXMLDOMElement& oChartElement) {
       const std::string sName(GetCellText(*oSheet, lRow, bucket_column::kLabel, sScratch));
       const auto oSeries = mChart->SeriesCollection()->NewSeries();
       oSeries->SetChartType(excel::xlColumnStacked);
-      oSeries->SetName(sName);
+      SetLiteralName(*oSeries, sName);
       oSeries->SetXValues(sBucketNames);
       oSeries->SetValues(BucketCells(oBlock, lRow));
       const auto oFill = runtime::MakeRef<CPSColor>();

@@ -17,7 +17,8 @@ class Series {
 
   /// The name as the legend shows it. A series without a name has "Series1" and so on.
   virtual std::string Name() = 0;
-  /// Sets the name to a literal text, or to a cell reference in the format of SetValues.
+  /// Sets the name to a literal text, to a cell reference in the format of SetValues, or to the text of a
+  /// formula such as ="a ""b""". Raises error 1004 for other texts that begin with "=".
   virtual void SetName(const Variant& name) = 0;
   /// The formula "=SERIES(name,categories,values,order)", with each reference as it is in the chart.
   virtual std::string Formula() = 0;

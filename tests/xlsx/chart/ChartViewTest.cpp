@@ -167,6 +167,17 @@ TEST_F(ChartViewTest, ASeriesShowsItsCells) {
       ExpectError1004([&] { series->SetValues(bad); });
     }
     ExpectError1004([&] { series->SetName(runtime::kNull); });
+    for (const auto& [formula, name] :
+         {std::pair{"=\"\"", ""}, {"=\"=x\"", "=x"}, {"=\"a \"\"b\"\"\"", "a \"b\""}}) {
+      const auto quoted = chart.SeriesCollection()->NewSeries();
+      quoted->SetName(formula);
+      EXPECT_EQ(quoted->Name(), name);
+      for (const char* bad : {"=x", "=\"", "=\"x", "=\"a\"b\"", "=\"a\"\""}) {
+        ExpectError1004([&] { quoted->SetName(bad); });
+      }
+      EXPECT_EQ(quoted->Name(), name);
+      quoted->Delete();
+    }
   });
   EXPECT_EQ(Between(after, "<c:ser>", "<c:ser><c:idx val=\"1\"/>"),
             "<c:ser><c:idx val=\"0\"/><c:order val=\"0\"/><c:tx><c:strRef><c:f>Sheet1!$C$1</c:f>"

@@ -19,6 +19,20 @@ using runtime::Variant;
 
 namespace {
 
+/// Returns the text of a formula that is only a quoted text: a "b" for ="a ""b""".
+std::optional<std::string> QuotedText(std::string_view formula) {
+  constexpr std::string_view kStart = "=\"";
+  if (formula.size() <= kStart.size() || !formula.starts_with(kStart) || !formula.ends_with('"'))
+    return std::nullopt;
+  formula = formula.substr(kStart.size(), formula.size() - kStart.size() - 1);
+  std::string text;
+  for (std::size_t i = 0; i < formula.size(); ++i) {
+    if (formula[i] == '"' && (++i == formula.size() || formula[i] != '"')) return std::nullopt;
+    text += formula[i];
+  }
+  return text;
+}
+
 struct Source {
   std::shared_ptr<CellSource> sheet;
   CellRange range;
@@ -190,8 +204,11 @@ void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, con
   const auto* text = value.If<std::string>();
   if (text == nullptr) throw CantSet(PropertyName(which), "Series");
   part.FollowMovedRows();  // References that are set now are up to date.
-  if (which == SeriesData::kName && !text->starts_with('=')) {
-    SetCachedText(Emptied(series, "tx"), *text);
+  const auto name = which != SeriesData::kName ? std::nullopt
+                    : text->starts_with('=')   ? QuotedText(*text)
+                                               : std::optional(*text);
+  if (name) {
+    SetCachedText(Emptied(series, "tx"), *name);
   } else {
     const Source source = FindSource(part, which, *text);
     const ChartTypeEntry* type = TypeOfGroup(series.parent());

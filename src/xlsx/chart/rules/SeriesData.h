@@ -29,7 +29,8 @@ std::string SeriesName(ChartPart& part, pugi::xml_node series);
 std::string ShownName(ChartPart& part, pugi::xml_node series);
 
 /// Makes a series refer to cells ("=Sheet1!$A$1:$A$5", or in R1C1 notation), and fills the chart's cache from
-/// them. A name may also be a literal text. Raises error 1004 for other values.
+/// them. A name may also be a literal text, or a formula that is only a quoted text (="East"). Raises error
+/// 1004 for other values.
 void SetSeriesData(ChartPart& part, pugi::xml_node series, SeriesData which, const runtime::Variant& value);
 
 /// The element of a series that contains its values.
