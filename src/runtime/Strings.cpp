@@ -235,4 +235,21 @@ std::string Replace(std::string_view text, std::string_view from, std::string_vi
   }
 }
 
+std::string InQuotes(std::string_view text, char mark) {
+  return mark + Replace(text, std::string(1, mark), std::string(2, mark)) + mark;
+}
+
+std::string TakeQuoted(std::string_view& text) {
+  const char mark = text.front();
+  std::string inside;
+  std::size_t i = 1;
+  for (; i < text.size(); ++i) {
+    if (text[i] == mark && !text.substr(i + 1).starts_with(mark)) break;
+    inside += text[i];
+    if (text[i] == mark) ++i;  // A doubled mark counts as one.
+  }
+  text.remove_prefix(std::min(i + 1, text.size()));
+  return inside;
+}
+
 }  // namespace plotsmith::runtime

@@ -55,4 +55,10 @@ void AppendUtf8(std::string& text, char32_t character);
 /// Replaces every `from` in `text`, with regard to case. An empty `from` occurs nowhere.
 std::string Replace(std::string_view text, std::string_view from, std::string_view to);
 
+/// Returns a text in quotation marks, as formulas and VBA write it: a mark in the text is doubled.
+std::string InQuotes(std::string_view text, char mark);
+/// Removes the quoted text at the start of `text`, and returns it without quotes. The first character of
+/// `text` is the quotation mark. If the end is missing, all of `text` is taken.
+std::string TakeQuoted(std::string_view& text);
+
 }  // namespace plotsmith::runtime

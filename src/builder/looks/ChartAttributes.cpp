@@ -6,6 +6,7 @@
 #include "common/Values.h"
 #include "common/YieldToHost.h"
 #include "runtime/Ref.h"
+#include "runtime/Strings.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith {
@@ -76,6 +77,10 @@ void FinishAxes() {
   };
   turn(excel::xlValue, bBar ? excel::xlHorizontal : excel::xlUpward);
   turn(excel::xlCategory, bBar ? excel::xlUpward : excel::xlHorizontal);
+}
+
+void SetLiteralName(excel::Series& oSeries, const std::string& sName) {
+  oSeries.SetName(sName.starts_with('=') ? "=" + runtime::InQuotes(sName, '"') : sName);
 }
 
 void SetLabelFont(const runtime::Ref<excel::Font>& oFont) {

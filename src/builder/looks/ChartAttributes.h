@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <string>
 #include <string_view>
 
 #include "dom/Dom.h"
@@ -29,6 +30,10 @@ struct AxisTitleManner {
 void ApplyAxisTitles(const dom::IXMLDOMElement& oChartElement, const AxisTitleManner& oManner = {});
 /// Links the tick labels of the value axis to the number format of the data, and rotates the axis titles.
 void FinishAxes();
+
+/// Sets a text as the name of a series. A text that begins with "=" is passed as the formula of that text,
+/// because the host takes it for a reference otherwise.
+void SetLiteralName(excel::Series& oSeries, const std::string& sName);
 
 /// Applies the persisted font of data labels.
 void SetLabelFont(const runtime::Ref<excel::Font>& oFont);

@@ -5,7 +5,6 @@
 #include "common/Values.h"
 #include "runtime/Collection.h"
 #include "runtime/Ref.h"
-#include "runtime/Strings.h"
 #include "runtime/Variant.h"
 
 namespace plotsmith {
@@ -23,10 +22,6 @@ const std::array<void (*)(excel::Series& oSeries, CPSColor& oFill), 5> kFillRead
       oFill.SetPatternColorIndex(oSeries.Interior()->PatternColorIndex());
     },
 };
-
-void SetLiteralName(excel::Series& oSeries, const std::string& sName) {
-  oSeries.SetName(sName.starts_with('=') ? "=\"" + runtime::Replace(sName, "\"", "\"\"") + "\"" : sName);
-}
 
 SeriesColors::SeriesColors() {
   mSeriesColors = runtime::MakeRef<runtime::Collection<runtime::Ref<CPSColor>>>();

@@ -14,10 +14,6 @@ namespace plotsmith {
 /// The reads of a series' fill, in order. Each may raise an error.
 extern const std::array<void (*)(excel::Series& oSeries, CPSColor& oFill), 5> kFillReads;
 
-/// Sets a text as the name of a series. A text that begins with "=" is passed as the formula of that text,
-/// because the host takes it for a reference otherwise.
-void SetLiteralName(excel::Series& oSeries, const std::string& sName);
-
 /// Module PSChartBuilder: one colour for each series name of a bubble or strategic bucket chart, in which
 /// several series can have the same name. The host gives each new series the next automatic colour. The n-th
 /// name gets the n-th of these colours, even if another series had it, so that repeated names leave no gaps

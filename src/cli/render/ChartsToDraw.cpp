@@ -54,8 +54,7 @@ std::string LabelOf(const xlsx::SheetEntry& sheet, xlsx::SheetShape& shape) {
 ChartToDraw ChartOnSheet(xlsx::Workbook& book, const std::string& name) {
   for (auto mark = name.find('!'); mark != std::string::npos; mark = name.find('!', mark + 1)) {
     std::string_view text(name);
-    const std::string sheetName =
-        text.starts_with('\'') ? xlsx::TakeQuotedSheetName(text) : name.substr(0, mark);
+    const std::string sheetName = text.starts_with('\'') ? runtime::TakeQuoted(text) : name.substr(0, mark);
     const auto sheet = book.Tabs().Find(sheetName);
     if (!sheet) continue;
     const std::string shapeName = name.substr(mark + 1);

@@ -24,7 +24,7 @@ std::string WithoutHalves(const std::string& text) {
 
 std::string Journal::Literal(const Variant& value) {
   if (const auto* text = value.If<std::string>()) {
-    std::string quoted = "\"" + runtime::Replace(WithoutHalves(*text), "\"", "\"\"") + "\"";
+    std::string quoted = runtime::InQuotes(WithoutHalves(*text), '"');
     // Line breaks become constants, so that a call stays on one line.
     quoted = runtime::Replace(quoted, "\r\n", "\" & vbCrLf & \"");
     quoted = runtime::Replace(quoted, "\r", "\" & vbCr & \"");

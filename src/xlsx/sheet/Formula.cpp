@@ -70,7 +70,7 @@ FormulaReader::Piece FormulaReader::Take(std::size_t length) {
 /// count as names of a sheet.
 FormulaReader::Piece FormulaReader::TakeQuoted() {
   std::string_view behind = rest_;
-  std::string name = TakeQuotedSheetName(behind);
+  std::string name = runtime::TakeQuoted(behind);
   if (behind.starts_with('!')) behind.remove_prefix(1);
   const bool elsewhere = name.find_first_of("[:") != std::string::npos;
   PointTo(std::move(name), elsewhere);

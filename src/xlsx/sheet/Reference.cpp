@@ -143,19 +143,7 @@ std::string QuotedSheetName(std::string_view name) {
   }
   // A name that looks like a reference needs quotes, too.
   if (plain && !ReadA1Reference(name) && !ReadsAsR1C1(name)) return std::string(name);
-  return "'" + runtime::Replace(name, "'", "''") + "'";
-}
-
-std::string TakeQuotedSheetName(std::string_view& text) {
-  std::string name;
-  std::size_t i = 1;
-  for (; i < text.size(); ++i) {
-    if (text[i] == '\'' && !text.substr(i + 1).starts_with('\'')) break;
-    name += text[i];
-    if (text[i] == '\'') ++i;  // A doubled quote counts as one.
-  }
-  text.remove_prefix(std::min(i + 1, text.size()));
-  return name;
+  return runtime::InQuotes(name, '\'');
 }
 
 std::string SheetRangeAddress(const SheetRange& range) {
@@ -195,7 +183,7 @@ std::optional<CellRange> ParseR1C1(std::string_view text) {
 std::optional<SheetRange> ParseSheetRange(std::string_view text) {
   SheetRange result;
   if (text.starts_with('\'')) {
-    result.sheet = TakeQuotedSheetName(text);
+    result.sheet = runtime::TakeQuoted(text);
   } else {
     result.sheet = text.substr(0, text.find('!'));
     text.remove_prefix(result.sheet.size());

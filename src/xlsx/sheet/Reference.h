@@ -48,8 +48,6 @@ std::string CellAddress(std::int32_t row, std::int32_t column);
 std::string RangeAddress(const CellRange& range);
 /// Returns the name of a sheet as a formula writes it, in quotes if necessary.
 std::string QuotedSheetName(std::string_view name);
-/// Removes the quoted name at the start of the text, and returns it without quotes.
-std::string TakeQuotedSheetName(std::string_view& text);
 /// Returns a text such as "Sheet1!$A$1:$B$2".
 std::string SheetRangeAddress(const SheetRange& range);
 

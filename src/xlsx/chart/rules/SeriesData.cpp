@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "runtime/Strings.h"
 #include "xlsx/base/Errors.h"
 #include "xlsx/base/Limits.h"
 #include "xlsx/book/BookContext.h"
@@ -21,15 +22,10 @@ namespace {
 
 /// Returns the text of a formula that is only a quoted text: a "b" for ="a ""b""".
 std::optional<std::string> QuotedText(std::string_view formula) {
-  constexpr std::string_view kStart = "=\"";
-  if (formula.size() <= kStart.size() || !formula.starts_with(kStart) || !formula.ends_with('"'))
-    return std::nullopt;
-  formula = formula.substr(kStart.size(), formula.size() - kStart.size() - 1);
-  std::string text;
-  for (std::size_t i = 0; i < formula.size(); ++i) {
-    if (formula[i] == '"' && (++i == formula.size() || formula[i] != '"')) return std::nullopt;
-    text += formula[i];
-  }
+  if (!formula.starts_with("=\"")) return std::nullopt;
+  std::string_view rest = formula.substr(1);
+  std::string text = runtime::TakeQuoted(rest);
+  if (formula.substr(1) != runtime::InQuotes(text, '"')) return std::nullopt;
   return text;
 }
 
