@@ -309,6 +309,22 @@ TEST_F(RenderTest, AnExistingPictureIsReplacedAsAWhole) {
   }
 }
 
+TEST_F(RenderTest, APictureWhoseWritingFailsIsRemoved) {
+  const S folder = folder_ / "dir", said = folder_ / "said.txt";
+  for (const bool isThere : {false, true}) {
+    fs::remove_all(folder);
+    fs::create_directory(folder);
+    if (isThere) std::ofstream(folder + "/a.png") << "before";
+    std::ofstream(folder + "/b.svg") << "another picture";
+    const S command = "trap '' XFSZ; ulimit -f 4; " + S(kCommand) + " render " +
+                      book_ +  // 2 KiB for each file
+                      " VEX_Chart1 -o " + folder + "/a.png 2> " + said;
+    EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 3) << isThere;
+    EXPECT_EQ(BytesOf(said), "plotsmith: can't write \"" + folder + "/a.png\": File too large.\n") << isThere;
+    EXPECT_EQ(Files(), "b.svg none") << isThere;
+  }
+}
+
 TEST_F(RenderTest, OnlyDefinitionsWithAChartOfTheirOwnAreDrawn) {
   PlainBook book;
   PlainSheet charts{"Charts"};
